@@ -46,3 +46,16 @@ std::string missingFileText(std::string_view fileName, std::string_view director
 }
 
 }  // namespace quorn
+
+namespace quorn {
+
+std::string faultInFileText(std::string_view fileShown, std::size_t line, std::string_view problem) {
+  std::string text(fileShown);
+  text += ", line ";
+  text += std::to_string(line);
+  text += ": ";
+  text += problem;
+  return text;
+}
+
+}  // namespace quorn

@@ -1,6 +1,7 @@
 #pragma once
 // The one way the core speaks to the user: modal messages and questions.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -46,5 +47,13 @@ namespace quorn {
 
 /// The shared shape of the missing-file messages: NAME not found in the DIR directory...
 std::string missingFileText(std::string_view fileName, std::string_view directoryShown);
+
+}  // namespace quorn
+
+namespace quorn {
+
+/// A clear message for a fault the files' own rules leave undefined: names the file, the
+/// 1-based line and the problem, as "FILE, line N: PROBLEM".
+std::string faultInFileText(std::string_view fileShown, std::size_t line, std::string_view problem);
 
 }  // namespace quorn

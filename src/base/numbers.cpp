@@ -54,8 +54,10 @@ std::optional<std::int16_t> roundToInt16(double value) {
 std::int32_t roundHalfEven(double value) {
   if (std::isnan(value)) return 0;
   const double rounded = std::nearbyint(value);
-  if (rounded <= std::numeric_limits<std::int32_t>::min()) return std::numeric_limits<std::int32_t>::min();
-  if (rounded >= std::numeric_limits<std::int32_t>::max()) return std::numeric_limits<std::int32_t>::max();
+  if (rounded <= std::numeric_limits<std::int32_t>::min())
+    return std::numeric_limits<std::int32_t>::min();
+  if (rounded >= std::numeric_limits<std::int32_t>::max())
+    return std::numeric_limits<std::int32_t>::max();
   return static_cast<std::int32_t>(rounded);
 }
 

@@ -14,7 +14,9 @@ std::string_view trimmedRight(std::string_view text) {
   return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
 }
 
-std::string_view trimmed(std::string_view text) { return trimmedRight(trimmedLeft(text)); }
+std::string_view trimmed(std::string_view text) {
+  return trimmedRight(trimmedLeft(text));
+}
 
 std::string_view withoutLeadingTabs(std::string_view text) {
   const auto first = text.find_first_not_of('\t');
@@ -26,7 +28,9 @@ std::string_view withoutLeadingBlanksAndTabs(std::string_view text) {
   return first == std::string_view::npos ? std::string_view{} : text.substr(first);
 }
 
-static char upperChar(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+static char upperChar(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 std::string upperCase(std::string_view text) {
   std::string result(text);
@@ -34,7 +38,9 @@ std::string upperCase(std::string_view text) {
   return result;
 }
 
-std::string normalisedWord(std::string_view text) { return upperCase(trimmed(text)); }
+std::string normalisedWord(std::string_view text) {
+  return upperCase(trimmed(text));
+}
 
 std::string_view leftPart(std::string_view text, std::size_t count) {
   return text.substr(0, std::min(count, text.size()));
@@ -50,9 +56,9 @@ std::string_view midPart(std::string_view text, std::size_t position, std::size_
 }
 
 bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(),
-                    [](char x, char y) { return upperChar(x) == upperChar(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return upperChar(x) == upperChar(y);
+         });
 }
 
 }  // namespace quorn

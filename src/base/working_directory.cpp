@@ -32,8 +32,7 @@ std::optional<fs::path> findIgnoringCase(const fs::path& path) {
   const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
   const std::string wanted = path.filename().string();
   for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-    if (equalsIgnoringCase(it->path().filename().string(), wanted) &&
-        it->is_regular_file(error)) {
+    if (equalsIgnoringCase(it->path().filename().string(), wanted) && it->is_regular_file(error)) {
       return it->path();
     }
   }
@@ -49,6 +48,8 @@ fs::path WorkingDirectory::locate(std::string_view fixedName) const {
   return directory_ / fs::path(std::string(fixedName));
 }
 
-bool WorkingDirectory::has(std::string_view fixedName) const { return find(fixedName).has_value(); }
+bool WorkingDirectory::has(std::string_view fixedName) const {
+  return find(fixedName).has_value();
+}
 
 }  // namespace quorn

@@ -1,7 +1,7 @@
 // symbols config: what the editor reads from SYMBOLS.INI and SYMBOLS.CFG at start-up.
 
-#include <functional>
 #include <filesystem>
+#include <functional>
 #include <ostream>
 
 #include "cli/arguments.h"
@@ -10,8 +10,8 @@
 #include "cli/json_writer.h"
 #include "cli/workdir_option.h"
 #include "config/config_keys.h"
-#include "config/palette.h"
 #include "config/configuration_reader.h"
+#include "config/palette.h"
 #include "config/settings_reader.h"
 
 namespace quorn::cli {
@@ -24,9 +24,15 @@ void writeConfigJson(const Configuration& config, const Settings& settings, std:
   for (const ConfigKey& entry : configKeys()) {
     json.key(entry.name);
     switch (entry.kind) {
-      case ConfigKey::Kind::Real: json.value(config.pitch); break;
-      case ConfigKey::Kind::Flag: json.value(config.writeBin); break;
-      default: json.value(config.*entry.integer); break;
+      case ConfigKey::Kind::Real:
+        json.value(config.pitch);
+        break;
+      case ConfigKey::Kind::Flag:
+        json.value(config.writeBin);
+        break;
+      default:
+        json.value(config.*entry.integer);
+        break;
     }
   }
   json.endObject();
@@ -82,9 +88,15 @@ void writeConfigText(const Configuration& config, const Settings& settings, std:
       case ConfigKey::Kind::Colour:
         out << config.*entry.integer << " (" << colourName(config.*entry.integer) << ")";
         break;
-      case ConfigKey::Kind::Real: out << config.pitch; break;
-      case ConfigKey::Kind::Flag: out << (config.writeBin ? "on" : "off"); break;
-      default: out << config.*entry.integer; break;
+      case ConfigKey::Kind::Real:
+        out << config.pitch;
+        break;
+      case ConfigKey::Kind::Flag:
+        out << (config.writeBin ? "on" : "off");
+        break;
+      default:
+        out << config.*entry.integer;
+        break;
     }
     out << '\n';
   }

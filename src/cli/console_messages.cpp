@@ -6,9 +6,11 @@ Answer ConsoleMessages::ask(const Message& message) {
   err_ << message.text << '\n';
   switch (message.buttons) {
     case Buttons::Ok:
-    case Buttons::OkCancel: return Answer::Ok;
+    case Buttons::OkCancel:
+      return Answer::Ok;
     case Buttons::YesNo:
-    case Buttons::YesNoCancel: return Answer::Yes;
+    case Buttons::YesNoCancel:
+      return Answer::Yes;
   }
   return Answer::Ok;
 }

@@ -10,11 +10,21 @@ std::string jsonQuoted(std::string_view text) {
   std::string quoted = "\"";
   for (const char c : text) {
     switch (c) {
-      case '"': quoted += "\\\""; break;
-      case '\\': quoted += "\\\\"; break;
-      case '\n': quoted += "\\n"; break;
-      case '\r': quoted += "\\r"; break;
-      case '\t': quoted += "\\t"; break;
+      case '"':
+        quoted += "\\\"";
+        break;
+      case '\\':
+        quoted += "\\\\";
+        break;
+      case '\n':
+        quoted += "\\n";
+        break;
+      case '\r':
+        quoted += "\\r";
+        break;
+      case '\t':
+        quoted += "\\t";
+        break;
       default:
         if (static_cast<unsigned char>(c) < 0x20) {
           char escape[8];
@@ -28,7 +38,9 @@ std::string jsonQuoted(std::string_view text) {
   return quoted + "\"";
 }
 
-void JsonWriter::indent() { out_ << '\n' << std::string(hasMembers_.size() * 2, ' '); }
+void JsonWriter::indent() {
+  out_ << '\n' << std::string(hasMembers_.size() * 2, ' ');
+}
 
 void JsonWriter::separate() {
   if (afterKey_) {
@@ -56,7 +68,9 @@ JsonWriter& JsonWriter::close(char bracket) {
   return *this;
 }
 
-JsonWriter& JsonWriter::endObject() { return close('}'); }
+JsonWriter& JsonWriter::endObject() {
+  return close('}');
+}
 
 JsonWriter& JsonWriter::beginArray() {
   separate();
@@ -65,7 +79,9 @@ JsonWriter& JsonWriter::beginArray() {
   return *this;
 }
 
-JsonWriter& JsonWriter::endArray() { return close(']'); }
+JsonWriter& JsonWriter::endArray() {
+  return close(']');
+}
 
 JsonWriter& JsonWriter::key(std::string_view name) {
   separate();
@@ -104,6 +120,8 @@ JsonWriter& JsonWriter::value(bool flag) {
   return *this;
 }
 
-void JsonWriter::finish() { out_ << '\n'; }
+void JsonWriter::finish() {
+  out_ << '\n';
+}
 
 }  // namespace quorn::cli

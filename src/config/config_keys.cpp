@@ -37,6 +37,8 @@ constexpr std::array<ConfigKey, 23> kKeys = {{
 
 }  // namespace
 
-std::span<const ConfigKey> configKeys() { return kKeys; }
+std::span<const ConfigKey> configKeys() {
+  return kKeys;
+}
 
 }  // namespace quorn

@@ -17,8 +17,8 @@ struct GroupEntry {
 };
 
 struct SkeyGroup {
-  std::string name;                  // empty for an unnamed group
-  std::vector<GroupEntry> entries;   // positions 1 to 80, held from index 0
+  std::string name;                 // empty for an unnamed group
+  std::vector<GroupEntry> entries;  // positions 1 to 80, held from index 0
 };
 
 inline constexpr int kMaxGroups = 21;
@@ -35,8 +35,8 @@ struct Configuration {
   std::int16_t teeColour = 14;
   std::int16_t insulationColour = 12;
   std::int16_t tracingColour = 12;
-  double pitch = 5;            // tenths of a millimetre, fraction kept
-  std::int16_t hsize = 300;    // tenths of a millimetre
+  double pitch = 5;          // tenths of a millimetre, fraction kept
+  std::int16_t hsize = 300;  // tenths of a millimetre
   std::int16_t startRadius = 60;
   std::int16_t endRadius = 150;
   std::int16_t spindleRadius = 120;

@@ -17,8 +17,8 @@ struct FileFormat {
 
 /// A format's structure block, loaded on demand for one extension.
 struct FormatStructure {
-  std::string extension;   // as the caller asked for it
-  std::string id;          // in capitals; the built-in layouts or a test string
+  std::string extension;  // as the caller asked for it
+  std::string id;         // in capitals; the built-in layouts or a test string
   std::int16_t headlines = 0;
   std::int16_t leadlines = 0;
   bool writeBinary = false;  // WRITEBIN for the built-in ASCII layout, else false

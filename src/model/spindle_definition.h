@@ -13,7 +13,7 @@ struct SpindleSegment {
 };
 
 struct SpindleDefinition {
-  std::string name;  // its SKEY
+  std::string name;                      // its SKEY
   std::vector<SpindleSegment> segments;  // up to 50
 };
 

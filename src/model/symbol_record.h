@@ -29,10 +29,10 @@ struct SymbolAction {
 
 /// The text fields of a symbol, each kept exactly as it will be written.
 struct SymbolText {
-  std::string newKeyRaw;   // as read or typed, trimmed
-  std::string newKey;      // normalised; blank when the symbol keeps its old key
+  std::string newKeyRaw;  // as read or typed, trimmed
+  std::string newKey;     // normalised; blank when the symbol keeps its old key
   std::string oldKeyRaw;
-  std::string oldKey;      // normalised; the key the symbol is listed by
+  std::string oldKey;  // normalised; the key the symbol is listed by
   std::string spindleKey;
   std::string scaleFactor;
   std::string mirrorType;

@@ -46,8 +46,8 @@ SymbolRecord recordFromWorkingSymbol(const WorkingSymbol& working, bool spindleP
   return record;
 }
 
-bool storeWorkingSymbol(const WorkingSymbol& working, bool spindlePlaced,
-                        const GridPlacement& grid, CurrentSet& set, int number) {
+bool storeWorkingSymbol(const WorkingSymbol& working, bool spindlePlaced, const GridPlacement& grid,
+                        CurrentSet& set, int number) {
   if (number < 1 || number > set.count() + 1) return false;
   SymbolRecord record = recordFromWorkingSymbol(working, spindlePlaced, grid);
   if (number == set.count() + 1) {

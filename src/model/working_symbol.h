@@ -28,8 +28,8 @@ struct WorkingSymbol : SymbolText {
 
 /// Where the grid lies on the drawing surface: what turns form units into stored units.
 struct GridPlacement {
-  float unitsPerMm = 1.0f;     // form units per millimetre
-  std::int32_t gridHeight = 0; // form units
+  float unitsPerMm = 1.0f;      // form units per millimetre
+  std::int32_t gridHeight = 0;  // form units
 };
 
 /// A form-unit point as stored: hundredths of a millimetre from the grid's bottom-left corner.
@@ -44,7 +44,7 @@ SymbolRecord recordFromWorkingSymbol(const WorkingSymbol& working, bool spindleP
 /// Stores the working symbol as symbol `number` of the set (replacing it, or appending when
 /// `number` is one past the last) and marks the set changed. False when `number` is outside
 /// 1 to count + 1 or the set is full.
-bool storeWorkingSymbol(const WorkingSymbol& working, bool spindlePlaced,
-                        const GridPlacement& grid, CurrentSet& set, int number);
+bool storeWorkingSymbol(const WorkingSymbol& working, bool spindlePlaced, const GridPlacement& grid,
+                        CurrentSet& set, int number);
 
 }  // namespace quorn

@@ -15,8 +15,7 @@ TEST(TextFile, SplitsLfAndCrLfAlike) {
   EXPECT_EQ(linesOf(TextFile::fromContent("a\r\nb\r\nc\r\n")),
             (std::vector<std::string>{"a", "b", "c"}));
   EXPECT_EQ(linesOf(TextFile::fromContent("a\nb\nc")), (std::vector<std::string>{"a", "b", "c"}));
-  EXPECT_EQ(linesOf(TextFile::fromContent("a\r\nb\nc")),
-            (std::vector<std::string>{"a", "b", "c"}));
+  EXPECT_EQ(linesOf(TextFile::fromContent("a\r\nb\nc")), (std::vector<std::string>{"a", "b", "c"}));
 }
 
 TEST(TextFile, AFinalLineEndMakesNoEmptyLineButAnEarlierEmptyLineCounts) {

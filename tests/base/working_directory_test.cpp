@@ -19,7 +19,8 @@ TEST(WorkingDirectory, ShowsPathsWithThePlatformSeparatorAndNoTrailingOne) {
   const std::string separator(1, static_cast<char>(fs::path::preferred_separator));
   const WorkingDirectory directory(fs::path("sym") / "work" / "");
   EXPECT_EQ(directory.shown(), "sym" + separator + "work");
-  EXPECT_EQ(directory.shownPath("SYMBOLS.CFG"), "sym" + separator + "work" + separator + "SYMBOLS.CFG");
+  EXPECT_EQ(directory.shownPath("SYMBOLS.CFG"),
+            "sym" + separator + "work" + separator + "SYMBOLS.CFG");
 }
 
 TEST(WorkingDirectory, FindsFixedNamesInAnyLetterCase) {

@@ -40,8 +40,7 @@ TEST(ListLabel, ShowsTheNewAndSpindleKeysOnlyWhenPresent) {
   EXPECT_EQ(listLabel(symbol), "Old SKEY: SP     New SKEY: XV**");
   symbol.newKey = "";
   symbol.spindleKey = "HWSP";
-  EXPECT_EQ(listLabel(symbol),
-            "Old SKEY: SP  " + std::string(17, ' ') + "   Spindle SKEY: HWSP");
+  EXPECT_EQ(listLabel(symbol), "Old SKEY: SP  " + std::string(17, ' ') + "   Spindle SKEY: HWSP");
 }
 
 }  // namespace

@@ -27,7 +27,8 @@ WorkingSymbol drawnSymbol() {
 
 TEST(StoreWorkingSymbol, ConvertsFormUnitsToHundredthsOfAMillimetreFromTheBottomLeft) {
   EXPECT_EQ(storedAction(kLine, 1100, kBottom, kGrid), (SymbolAction{kLine, 0, 0}));
-  EXPECT_EQ(storedAction(kLine, 1100 + 466, kBottom - 233, kGrid), (SymbolAction{kLine, 1000, 500}));
+  EXPECT_EQ(storedAction(kLine, 1100 + 466, kBottom - 233, kGrid),
+            (SymbolAction{kLine, 1000, 500}));
   // Fractions are cut towards minus infinity, not rounded.
   EXPECT_EQ(storedAction(kLine, 1100 + 47, kBottom - 1, kGrid), (SymbolAction{kLine, 100, 2}));
 }
@@ -42,11 +43,11 @@ TEST(StoreWorkingSymbol, AppendsTheSpindleAndEndPointsAndMarksCharacterLines) {
   EXPECT_EQ(stored.scaleFactor, "100");
   EXPECT_EQ(stored.tappingCount, 1);
   EXPECT_EQ(stored.actions, (std::vector<SymbolAction>{{kMove, 0, 0},
-                                                      {kLine, 1000, 500},
-                                                      {kCharacterLine, 2000, 0},
-                                                      {kTappingPoint, 1000, 1000},
-                                                      {kSpindlePoint, 1000, 1500},
-                                                      {kMove, 3000, 0}}));
+                                                       {kLine, 1000, 500},
+                                                       {kCharacterLine, 2000, 0},
+                                                       {kTappingPoint, 1000, 1000},
+                                                       {kSpindlePoint, 1000, 1500},
+                                                       {kMove, 3000, 0}}));
 }
 
 TEST(StoreWorkingSymbol, WithoutASpindlePointTheEndPointFollowsTheDrawnSlots) {

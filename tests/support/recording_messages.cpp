@@ -11,8 +11,10 @@ Answer RecordingMessages::ask(const Message& message) {
   }
   switch (message.buttons) {
     case Buttons::YesNo:
-    case Buttons::YesNoCancel: return Answer::Yes;
-    default: return Answer::Ok;
+    case Buttons::YesNoCancel:
+      return Answer::Yes;
+    default:
+      return Answer::Ok;
   }
 }
 

@@ -11,5 +11,6 @@ namespace quorn::cli {
 using Words = std::vector<std::string>;
 
 int runConfig(const Words& words, std::ostream& out, std::ostream& err);
+int runSpindles(const Words& words, std::ostream& out, std::ostream& err);
 
 }  // namespace quorn::cli

@@ -15,6 +15,7 @@ struct Command {
 
 constexpr Command kCommands[] = {
     {"config", quorn::cli::runConfig, "config [--workdir DIR] [--json]"},
+    {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
 };
 
 int usage(std::ostream& err) {

@@ -1,24 +1,10 @@
 // Feeds arbitrary text to the SPINDLES.DEF reader.
 
-#include <cstddef>
-#include <cstdint>
-#include <string>
-
 #include "files/spindle_reader.h"
-
-namespace {
-
-class SilentMessages : public quorn::Messages {
- public:
-  quorn::Answer ask(const quorn::Message&) override { return quorn::Answer::Ok; }
-};
-
-}  // namespace
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  SilentMessages messages;
-  const auto file =
-      quorn::TextFile::fromContent(std::string(reinterpret_cast<const char*>(data), size));
-  quorn::parseSpindles(file, "SPINDLES.DEF", messages);
+  quorn::fuzz::SilentMessages messages;
+  quorn::parseSpindles(quorn::fuzz::textFileOf(data, size), "SPINDLES.DEF", messages);
   return 0;
 }

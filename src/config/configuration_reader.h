@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/messages.h"
+#include "base/text_file.h"
 #include "base/working_directory.h"
 #include "config/configuration.h"
 
@@ -14,5 +15,11 @@ namespace quorn {
 /// program is returned with its message, and `config` is then not to be used.
 std::optional<FatalError> readConfiguration(const WorkingDirectory& directory,
                                             Configuration& config, Messages& messages);
+
+/// The same for a SYMBOLS.CFG already in memory. Nothing is read from `directory`: it only
+/// names the file in messages.
+std::optional<FatalError> readConfigurationText(const TextFile& file,
+                                                const WorkingDirectory& directory,
+                                                Configuration& config, Messages& messages);
 
 }  // namespace quorn

@@ -16,6 +16,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"config", quorn::cli::runConfig, "config [--workdir DIR] [--json]"},
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
+    {"convert", quorn::cli::runConvert, "convert IN OUT [--workdir DIR] [--force]"},
 };
 
 int usage(std::ostream& err) {

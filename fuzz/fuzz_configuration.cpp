@@ -2,24 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 #include "config/configuration_reader.h"
-
-namespace {
-
-class SilentMessages : public quorn::Messages {
- public:
-  quorn::Answer ask(const quorn::Message&) override { return quorn::Answer::Ok; }
-};
-
-}  // namespace
+#include "fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const quorn::TextFile file =
-      quorn::TextFile::fromContent(std::string(reinterpret_cast<const char*>(data), size));
+  const quorn::TextFile file = quorn::fuzz::textFileOf(data, size);
   quorn::Configuration config;
-  SilentMessages messages;
+  quorn::fuzz::SilentMessages messages;
   const auto fatal =
       quorn::readConfigurationText(file, quorn::WorkingDirectory("fuzz"), config, messages);
   if (!fatal) {

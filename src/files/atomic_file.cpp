@@ -1,7 +1,8 @@
 #include "files/atomic_file.h"
 
+#include <atomic>
 #include <cerrno>
-#include <random>
+#include <chrono>
 #include <system_error>
 
 #include "files/writer_texts.h"
@@ -21,15 +22,21 @@ std::string lastReason() {
 // Names tried for the temporary file before giving up on finding a free one.
 constexpr int kNameAttempts = 64;
 
+// A number that differs between calls and, most likely, between processes.
+std::string uniqueNumber() {
+  static std::atomic<unsigned> counter{0};
+  const auto clock = std::chrono::steady_clock::now().time_since_epoch().count();
+  return std::to_string(static_cast<unsigned long long>(clock) % 1000000007ULL) + "-" +
+         std::to_string(counter++);
+}
+
 }  // namespace
 
 AtomicFile::AtomicFile(fs::path target) : target_(std::move(target)) {
-  std::random_device seed;
-  std::mt19937 random(seed());
   const fs::path folder = target_.parent_path();
   for (int attempt = 0; attempt < kNameAttempts && file_ == nullptr; ++attempt) {
     const fs::path candidate =
-        folder / (target_.filename().string() + ".~" + std::to_string(random() % 1000000) + ".tmp");
+        folder / (target_.filename().string() + ".~" + uniqueNumber() + ".tmp");
     errno = 0;
     // "x": never reuse a file that someone else has just made.
     file_ = std::fopen(candidate.string().c_str(), "wbx");

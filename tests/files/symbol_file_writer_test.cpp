@@ -402,9 +402,13 @@ TEST(SymbolFileWriter, SavingOverTheOpenFileBacksItUpFirst) {
   save.temp.write("SYMBOLS.INI", std::string(kSettings) +
                                      "EXTENSION DAT, data\r\nID Quorn_ASCII\r\n"
                                      "Headlines 0\r\nLeadlines 0\r\n[End]\r\n");
+  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+  fs::permissions(name, permissions);
   ASSERT_TRUE(save.write(name, name));
   EXPECT_EQ(save.temp.read("NAME.BAK"), "old symbols\r\n");
   EXPECT_TRUE(save.temp.read("NAME.DAT").starts_with(" 501  "));
+  // The new file takes the place of the old one with its permissions.
+  EXPECT_EQ(fs::status(name).permissions(), permissions);
   EXPECT_TRUE(save.messages.shown().empty());
 
   // A dotless name gains ".BAK".

@@ -185,7 +185,7 @@ bool writeSymbolFile(const WorkingDirectory& directory, std::string& fileName,
   }
   if (binary && !binary->finish()) return failedWith(*binary);
   if (!text->finish()) return failedWith(*text);
-  // The copy first: should the text file then fail to take its place, the old text stays.
+  // The copy first: should it fail to take its place, the text file is still untouched.
   if (binary && !binary->commit()) return failedWith(*binary);
   if (!text->commit()) return failedWith(*text);
   set.changed = false;

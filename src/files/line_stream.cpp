@@ -27,7 +27,7 @@ LineStream::LineStream(std::string_view content)
   nul_ = findNul(position_, end_);
 }
 
-std::optional<std::string_view> LineStream::next() {
+std::optional<std::string_view> LineStream::nextChecked() {
   if (fault_) return std::nullopt;
   for (;;) {
     const auto held = static_cast<std::size_t>(end_ - position_);

@@ -4,6 +4,7 @@
 // what no text file holds (a NUL byte, an overlong line) as it goes by.
 
 #include <cstddef>
+#include <cstring>
 #include <istream>
 #include <optional>
 #include <string>
@@ -28,7 +29,23 @@ class LineStream {
   /// The next line without its line end (LF, or CR LF), valid until the next call. Nothing at
   /// the end of the text or once a fault has been met. A final line end does not make an
   /// empty line after it.
-  std::optional<std::string_view> next();
+  std::optional<std::string_view> next() {
+    // Most lines are whole in the buffer, their end found at once.
+    if (endingSeen_ && !fault_ && position_ != end_) {
+      const char* begin = position_;
+      if (const void* found = std::memchr(begin, '\n', static_cast<std::size_t>(end_ - begin))) {
+        const char* end = static_cast<const char*>(found);
+        const char* textEnd = end > begin && end[-1] == '\r' ? end - 1 : end;
+        const auto length = static_cast<std::size_t>(textEnd - begin);
+        if ((nul_ == nullptr || nul_ >= end) && length <= kMaxLineLength) {
+          ++lineNumber_;
+          position_ = end + 1;
+          return std::string_view(begin, length);
+        }
+      }
+    }
+    return nextChecked();
+  }
 
   /// The 1-based number of the line last returned, or of the line found faulty.
   std::size_t lineNumber() const { return lineNumber_; }
@@ -38,6 +55,7 @@ class LineStream {
   LineEnding lineEnding() const { return lineEnding_; }
 
  private:
+  std::optional<std::string_view> nextChecked();
   bool refill();
   std::optional<std::string_view> fail(std::string problem);
   std::optional<std::string_view> deliver(const char* begin, const char* end, bool ended);

@@ -17,6 +17,7 @@ constexpr Command kCommands[] = {
     {"config", quorn::cli::runConfig, "config [--workdir DIR] [--json]"},
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
     {"convert", quorn::cli::runConvert, "convert IN OUT [--workdir DIR] [--force]"},
+    {"list", quorn::cli::runList, "list FILE [--workdir DIR] [--json]"},
 };
 
 int usage(std::ostream& err) {

@@ -11,6 +11,7 @@ namespace quorn::cli {
 using Words = std::vector<std::string>;
 
 int runConfig(const Words& words, std::ostream& out, std::ostream& err);
+int runLibrary(const Words& words, std::ostream& out, std::ostream& err);
 int runSpindles(const Words& words, std::ostream& out, std::ostream& err);
 int runConvert(const Words& words, std::ostream& out, std::ostream& err);
 int runList(const Words& words, std::ostream& out, std::ostream& err);

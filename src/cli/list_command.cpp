@@ -8,6 +8,7 @@
 #include "cli/commands.h"
 #include "cli/console_messages.h"
 #include "cli/json_writer.h"
+#include "cli/symbol_json.h"
 #include "cli/workdir_option.h"
 #include "config/configuration_reader.h"
 #include "config/settings_reader.h"
@@ -57,22 +58,7 @@ void writeJson(const Listing& listing, const std::vector<std::string>& messages,
   writeLines(json, "tail", listing.text.tailLines);
   json.key("symbols").beginArray();
   for (int number = 1; number <= listing.set.count(); ++number) {
-    const SymbolRecord& symbol = listing.set.symbol(number);
-    json.beginObject();
-    json.key("newKeyRaw").value(symbol.newKeyRaw).key("newKey").value(symbol.newKey);
-    json.key("oldKeyRaw").value(symbol.oldKeyRaw).key("oldKey").value(symbol.oldKey);
-    json.key("spindleKey").value(symbol.spindleKey);
-    json.key("scaleFactor").value(symbol.scaleFactor);
-    json.key("mirrorType").value(symbol.mirrorType);
-    json.key("flowArrow").value(symbol.flowArrow);
-    json.key("dimensions").value(symbol.dimensions);
-    json.key("orientation").value(symbol.orientation);
-    json.key("tappingCount").value(symbol.tappingCount);
-    json.key("actions").beginArray();
-    for (const SymbolAction& action : symbol.actions) {
-      json.beginArray().value(action.type).value(action.x).value(action.y).endArray();
-    }
-    json.endArray().endObject();
+    writeSymbolJson(json, listing.set.symbol(number));
   }
   json.endArray();
   writeLines(json, "messages", messages);
@@ -90,17 +76,8 @@ void writeText(const Listing& listing, std::ostream& out) {
   writeLines(out, "Head", listing.text.headLines);
   writeLines(out, "Lead", listing.text.leadLines);
   for (int number = 1; number <= listing.set.count(); ++number) {
-    const SymbolRecord& symbol = listing.set.symbol(number);
-    out << "Symbol " << number << ": " << listing.labels[number - 1] << '\n'
-        << "  scale factor " << symbol.scaleFactor << ", mirror type " << symbol.mirrorType
-        << ", flow arrow " << symbol.flowArrow << ", dimensions " << symbol.dimensions
-        << ", orientation " << symbol.orientation << ", tapping points " << symbol.tappingCount
-        << '\n'
-        << "  actions:";
-    for (const SymbolAction& action : symbol.actions) {
-      out << "  " << action.type << ' ' << action.x << ',' << action.y;
-    }
-    out << '\n';
+    out << "Symbol " << number << ": " << listing.labels[number - 1] << '\n';
+    writeSymbolText(out, listing.set.symbol(number));
   }
   writeLines(out, "Tail", listing.text.tailLines);
   out << listing.set.count() << " Symbols Loaded\n";

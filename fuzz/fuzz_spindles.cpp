@@ -5,6 +5,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   quorn::fuzz::SilentMessages messages;
-  quorn::parseSpindles(quorn::fuzz::textFileOf(data, size), "SPINDLES.DEF", messages);
+  quorn::parseSpindles(std::string_view(reinterpret_cast<const char*>(data), size), "SPINDLES.DEF",
+                       messages);
   return 0;
 }

@@ -8,6 +8,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "files/line_stream.h"
 #include "model/limits.h"
 
 namespace quorn {
@@ -61,12 +62,15 @@ bool isSpindleName(std::string_view trimmedLine) {
 
 }  // namespace
 
-SpindleTable parseSpindles(const TextFile& file, std::string_view fileShown, Messages& messages) {
+SpindleTable parseSpindles(std::string_view content, std::string_view fileShown,
+                           Messages& messages) {
   SpindleTable table;
   bool refusalShown = false;
-  for (std::size_t index = 0; index < file.lineCount(); ++index) {
+  LineStream lines(content);
+  while (const auto line = lines.next()) {
+    const std::size_t lineNumber = lines.lineNumber();
     // Trailing blanks would otherwise count as a last field of their own.
-    const std::string_view text = trimmed(file.line(index));
+    const std::string_view text = trimmed(*line);
     if (text.empty()) continue;
     if (isSpindleName(text)) {
       if (table.count() == kMaxSpindles) break;
@@ -77,7 +81,7 @@ SpindleTable parseSpindles(const TextFile& file, std::string_view fileShown, Mes
     SpindleDefinition& spindle = table.spindles.back();
     if (static_cast<int>(spindle.segments.size()) == kMaxSpindleSegments) {
       if (!refusalShown)
-        messages.tell(faultInFileText(fileShown, index + 1, tooManySegmentsText(spindle.name)));
+        messages.tell(faultInFileText(fileShown, lineNumber, tooManySegmentsText(spindle.name)));
       refusalShown = true;
       continue;
     }
@@ -87,14 +91,18 @@ SpindleTable parseSpindles(const TextFile& file, std::string_view fileShown, Mes
     for (std::size_t i = 0; i < fields.size() && fits; ++i) {
       const auto value = fieldValue(fields[i]);
       if (!value) {
-        messages.tell(
-            faultInFileText(fileShown, index + 1, outOfRangeText(std::string(trimmed(fields[i])))));
+        messages.tell(faultInFileText(fileShown, lineNumber,
+                                      outOfRangeText(std::string(trimmed(fields[i])))));
         fits = false;
       } else {
         values[i] = *value;
       }
     }
     if (fits) spindle.segments.push_back({values[0], values[1], values[2], values[3]});
+  }
+  if (lines.fault()) {
+    messages.tell(faultInFileText(fileShown, lines.lineNumber(), *lines.fault()));
+    return SpindleTable{};
   }
   return table;
 }
@@ -111,7 +119,7 @@ void readSpindles(const WorkingDirectory& directory, SpindleTable& spindles, Mes
     messages.tell(directory.shownPath(kFileName) + " " + failure.reason);
     return;
   }
-  spindles = parseSpindles(*file, directory.shownPath(kFileName), messages);
+  spindles = parseSpindles(file->content(), directory.shownPath(kFileName), messages);
 }
 
 }  // namespace quorn

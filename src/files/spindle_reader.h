@@ -14,7 +14,10 @@ namespace quorn {
 /// file is reported and leaves no spindles; reading never ends the program.
 void readSpindles(const WorkingDirectory& directory, SpindleTable& spindles, Messages& messages);
 
-/// The same from text already read; `fileShown` names the file in messages.
-SpindleTable parseSpindles(const TextFile& file, std::string_view fileShown, Messages& messages);
+/// The same from the content of the file; `fileShown` names the file in messages. A file
+/// that is not text (a NUL byte, an overlong line) is reported with its line and gives no
+/// spindles.
+SpindleTable parseSpindles(std::string_view content, std::string_view fileShown,
+                           Messages& messages);
 
 }  // namespace quorn

@@ -9,7 +9,7 @@ namespace quorn {
 namespace {
 
 SpindleTable parse(const std::string& content, test::RecordingMessages& messages) {
-  return parseSpindles(TextFile::fromContent(content), "SPINDLES.DEF", messages);
+  return parseSpindles(content, "SPINDLES.DEF", messages);
 }
 
 TEST(SpindleReader, ReadsNamesAndSegmentsInFileOrder) {
@@ -62,6 +62,14 @@ TEST(SpindleReader, AValueBeyondSixteenBitsLeavesOutItsSegmentWithAMessage) {
   EXPECT_EQ(table.spindles[1].segments, (std::vector<SpindleSegment>{{1, 1, 2, 2}}));
   ASSERT_EQ(messages.texts().size(), 1u);
   EXPECT_NE(messages.texts()[0].find("SPINDLES.DEF, line 2: the value 40000"), std::string::npos);
+}
+
+TEST(SpindleReader, ABinaryFileIsReportedWithItsLineAndGivesNoSpindles) {
+  test::RecordingMessages messages;
+  const SpindleTable table = parse("HWSP\n0,0 1,1\n" + std::string("\x7f\0\x01", 3), messages);
+  EXPECT_EQ(table.count(), 0);
+  ASSERT_EQ(messages.texts().size(), 1u);
+  EXPECT_EQ(messages.texts()[0].rfind("SPINDLES.DEF, line 3: ", 0), 0u) << messages.texts()[0];
 }
 
 TEST(SpindleReader, AMissingFileIsReportedAndLeavesNoSpindles) {

@@ -48,7 +48,7 @@ LineSection LayoutScanner::takeOther(std::string_view line) {
       phase_ = leadLeft_ > 0 ? Phase::Lead : Phase::Body;
       return LineSection::Lead;
     case Phase::BuiltInHead: {
-      const auto record = recordNumber(line);
+      const int record = recordNumber(line);
       if (record == kHeaderRecord) {
         phase_ = Phase::Body;
         return bodyOrTail(line);
@@ -76,7 +76,7 @@ LineSection LayoutScanner::takeOther(std::string_view line) {
 LineSection LayoutScanner::bodyOrTail(std::string_view line) {
   const std::string_view text = withoutLeadingTabs(trimmed(line));
   if (text.empty()) return LineSection::Open;
-  const auto record = recordNumber(text);
+  const int record = recordNumber(text);
   if (record == kHeaderRecord || record == kActionRecord) return LineSection::Body;
   phase_ = Phase::Tail;
   return LineSection::Tail;

@@ -1,7 +1,8 @@
 #include "files/symbol_records.h"
 
-#include <bit>
-#include <cstring>
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
 
 #include "base/numbers.h"
 #include "base/text.h"
@@ -25,8 +26,8 @@ std::string_view fieldAt(std::string_view line, std::size_t start) {
   return start >= line.size() ? std::string_view{} : line.substr(start, kFieldWidth);
 }
 
-/// Blanks, an optional sign, digits and blanks: the way every file writes its coordinates,
-/// read here without the general number reading. False for any other text.
+/// Blanks, an optional sign, digits and blanks, read without the general number reading;
+/// false for any other text.
 bool plainInteger(std::string_view field, int& value) {
   const char* text = field.data();
   std::size_t end = field.size();
@@ -52,51 +53,39 @@ bool plainInteger(std::string_view field, int& value) {
   return true;
 }
 
-constexpr std::uint64_t kEachByte = 0x0101010101010101;
-constexpr std::uint64_t kHighBits = 0x8080808080808080;
-
-/// 0x80 in each byte of `x` that is not 0, and nothing else.
-constexpr std::uint64_t nonZeroBytes(std::uint64_t x) {
-  return (((x & ~kHighBits) + ~kHighBits) | x) & kHighBits;
+#if defined(__SSE2__) || defined(_M_X64)
+/// The x and y fields of an action group as written, 16 characters from `text` holding blanks
+/// and then digits each, read together: every coordinate of a large file comes here. Returns
+/// x + 65536 * y, or -1 for any other text, which is then read field by field.
+std::int32_t writtenCoordinates(const char* text) {
+  const __m128i fields = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text));
+  const __m128i blank = _mm_cmpeq_epi8(fields, _mm_set1_epi8(' '));
+  const __m128i digits = _mm_sub_epi8(fields, _mm_set1_epi8('0'));
+  const __m128i isDigit = _mm_cmpeq_epi8(_mm_max_epu8(digits, _mm_set1_epi8(9)), _mm_set1_epi8(9));
+  const unsigned blanks = static_cast<unsigned>(_mm_movemask_epi8(blank));
+  if ((blanks | static_cast<unsigned>(_mm_movemask_epi8(isDigit))) != 0xFFFF) return -1;
+  const unsigned xBlanks = blanks & 0xFF;
+  const unsigned yBlanks = blanks >> 8;
+  if ((xBlanks & (xBlanks + 1)) != 0 || (yBlanks & (yBlanks + 1)) != 0) return -1;
+  const __m128i values = _mm_andnot_si128(blank, digits);
+  const __m128i zero = _mm_setzero_si128();
+  const __m128i tens = _mm_set_epi16(1, 10, 1, 10, 1, 10, 1, 10);
+  const __m128i pairs = _mm_packs_epi32(_mm_madd_epi16(_mm_unpacklo_epi8(values, zero), tens),
+                                        _mm_madd_epi16(_mm_unpackhi_epi8(values, zero), tens));
+  const __m128i fours = _mm_madd_epi16(pairs, _mm_set_epi16(1, 100, 1, 100, 1, 100, 1, 100));
+  const __m128i whole = _mm_madd_epi16(_mm_packs_epi32(fours, fours),
+                                       _mm_set_epi16(1, 10000, 1, 10000, 1, 10000, 1, 10000));
+  const int xValue = _mm_cvtsi128_si32(whole);
+  const int yValue = _mm_cvtsi128_si32(_mm_srli_si128(whole, 4));
+  if (xValue > INT16_MAX || yValue > INT16_MAX) return -1;
+  return xValue + (yValue << 16);
 }
-
-/// The value of an 8-character field of blanks followed by digits (right-aligned, as every
-/// file writes its coordinates) held in `word`, its first character in the lowest byte; -1 for
-/// any other text.
-constexpr std::int64_t rightAlignedValue(std::uint64_t word) {
-  const std::uint64_t blank = nonZeroBytes(word ^ (kEachByte * ' ')) ^ kHighBits;
-  const std::uint64_t notDigitHigh = nonZeroBytes((word & (kEachByte * 0xF0)) ^ (kEachByte * 0x30));
-  const std::uint64_t lowAboveNine =
-      ((word & (kEachByte * 0x0F)) + kEachByte * 6) & (kEachByte * 0x10);
-  // Every character is a blank or a digit, and no blank follows a digit.
-  const bool valid = (notDigitHigh | (lowAboveNine << 3)) == blank &&
-                     (blank & ~(blank << 8) & ~std::uint64_t{0x80}) == 0;
-  // The blanks become leading zeros; then the digits are joined pairwise.
-  std::uint64_t number = word & (kEachByte * 0x0F) & ~((blank >> 7) * 0xFF);
-  number = (number * 2561) >> 8;
-  number = ((number & 0x00FF00FF00FF00FF) * 6553601) >> 16;
-  number = ((number & 0x0000FFFF0000FFFF) * 42949672960001) >> 32;
-  return valid ? static_cast<std::int64_t>(number) : -1;
+#else
+// Without SSE2 every field is read by itself.
+std::int32_t writtenCoordinates(const char*) {
+  return -1;
 }
-
-/// The x and y fields of an action group as written, 16 characters from `text`, read
-/// together; false for any other text, which is then read field by field.
-bool writtenCoordinates(const char* text, std::int16_t& x, std::int16_t& y) {
-  if constexpr (std::endian::native != std::endian::little) {
-    return false;
-  } else {
-    std::uint64_t xWord;
-    std::uint64_t yWord;
-    std::memcpy(&xWord, text, sizeof xWord);
-    std::memcpy(&yWord, text + kFieldWidth, sizeof yWord);
-    const std::int64_t xValue = rightAlignedValue(xWord);
-    const std::int64_t yValue = rightAlignedValue(yWord);
-    if (xValue < 0 || yValue < 0 || xValue > INT16_MAX || yValue > INT16_MAX) return false;
-    x = static_cast<std::int16_t>(xValue);
-    y = static_cast<std::int16_t>(yValue);
-    return true;
-  }
-}
+#endif
 
 bool fits16(int value) {
   return value >= INT16_MIN && value <= INT16_MAX;
@@ -121,8 +110,9 @@ std::string trimmedField(std::string_view line, std::size_t column, std::size_t 
 
 }  // namespace
 
-std::optional<std::int16_t> readRecordNumber(std::string_view line) {
-  return roundToInt16(leadingNumber(leftPart(line, 4)));
+int readRecordNumber(std::string_view line) {
+  const std::optional<std::int16_t> number = roundToInt16(leadingNumber(leftPart(line, 4)));
+  return number ? *number : kNoRecordNumber;
 }
 
 SymbolRecordParser::SymbolRecordParser(SymbolCollection& symbols, RecordRules rules,
@@ -151,6 +141,7 @@ void SymbolRecordParser::startSymbol(std::string_view line) {
   symbol.dimensions = trimmedField(line, 46, 8);
   symbol.orientation = trimmedField(line, 94, 8);
   symbol_ = &symbol;
+  closed_ = false;
   if (rules_.onHeader) rules_.onHeader(number_, symbol);
 }
 
@@ -169,8 +160,13 @@ std::optional<std::string> SymbolRecordParser::addActions(std::string_view line)
     std::int16_t y = 0;
     const std::size_t xAt = codeAt + 1;
     const std::size_t yAt = xAt + kFieldWidth;
-    // A record as written holds every field whole: both are read as words.
-    if (!(yAt + kFieldWidth <= line.size() && writtenCoordinates(line.data() + xAt, x, y))) {
+    // A record as written holds both fields whole: they are read at once.
+    const std::int32_t written =
+        yAt + kFieldWidth <= line.size() ? writtenCoordinates(line.data() + xAt) : -1;
+    if (written >= 0) {
+      x = static_cast<std::int16_t>(written & 0xFFFF);
+      y = static_cast<std::int16_t>(written >> 16);
+    } else {
       const std::string_view xField = fieldAt(line, xAt);
       const std::string_view yField = fieldAt(line, yAt);
       if (!coordinate(xField, x)) return coordinateTooLargeProblem("x", group + 1, xField);
@@ -210,15 +206,18 @@ bool SymbolRecordParser::admit(std::int16_t code) {
 }
 
 void SymbolRecordParser::closeSymbol() {
+  if (closed_) return;
+  closed_ = true;
+  SymbolRecord& symbol = *symbol_;
   // Room for a full symbol is taken at its first action; give back what it did not use.
-  if (symbol_->actions.capacity() != symbol_->actions.size()) symbol_->actions.shrink_to_fit();
+  if (symbol.actions.capacity() != symbol.actions.size()) symbol.actions.shrink_to_fit();
+  // No action joins a symbol once the next has begun, so its spindle point can be placed now,
+  // while its actions are still at hand.
+  if (number_ > 0) placeSpindlePoint(symbol);
 }
 
 void SymbolRecordParser::finish() {
   closeSymbol();
-  for (int number = 1; number <= symbols_.count(); ++number) {
-    placeSpindlePoint(symbols_.symbol(number));
-  }
 }
 
 bool parseSymbolRecords(const std::vector<std::string_view>& lines, std::string_view fileShown,

@@ -2,6 +2,7 @@
 // The "501" header and "502" action records that every symbol file and the Symbol Library
 // hold, parsed into a symbol collection one line at a time.
 
+#include <climits>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -18,9 +19,12 @@ inline constexpr std::int16_t kHeaderRecord = 501;
 inline constexpr std::int16_t kActionRecord = 502;
 inline constexpr std::int16_t kEndRecord = 999;
 
+/// Stands for a record number that does not fit a 16-bit integer; never a record.
+inline constexpr int kNoRecordNumber = INT_MIN;
+
 /// The value of a line's first four characters as a 16-bit integer, read as any number;
-/// nothing when the value does not fit.
-std::optional<std::int16_t> readRecordNumber(std::string_view line);
+/// `kNoRecordNumber` when the value does not fit.
+int readRecordNumber(std::string_view line);
 
 /// True for a line that starts " 501 " or " 502 ", as the records are written: its record
 /// number is the same whether it is trimmed first or not.
@@ -31,7 +35,7 @@ inline bool isWrittenRecord(std::string_view line) {
 
 /// The record number of a line, as `readRecordNumber`, with the records as written (" 501",
 /// and "501 " once trimmed) known at a glance: every line of a large file comes here.
-inline std::optional<std::int16_t> recordNumber(std::string_view line) {
+inline int recordNumber(std::string_view line) {
   if (line.size() >= 4 && line[0] == ' ' && line[1] == '5' && line[2] == '0') {
     if (line[3] == '1') return kHeaderRecord;
     if (line[3] == '2') return kActionRecord;
@@ -69,7 +73,7 @@ class SymbolRecordParser {
   /// a 16-bit integer: the caller names the file and line and stops reading.
   std::optional<std::string> parse(std::string_view line) {
     if (stopped_) return std::nullopt;
-    const std::optional<std::int16_t> record = recordNumber(line);
+    const int record = recordNumber(line);
     if (record == kActionRecord) return addActions(line);
     if (record == kHeaderRecord) startSymbol(line);
     return std::nullopt;
@@ -92,6 +96,7 @@ class SymbolRecordParser {
   SymbolRecord* symbol_;  // the symbol that action records go to
   int number_ = 0;        // the current symbol number
   bool stopped_ = false;
+  bool closed_ = false;       // the symbol that action records go to is complete
   bool tappingFlag_ = false;  // set by an accepted tapping point, cleared by its message
   bool actionFlag_ = false;   // cleared by an accepted action, set by its message
 };

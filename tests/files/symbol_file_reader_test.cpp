@@ -269,6 +269,16 @@ TEST(SymbolFileReader, PlacesEachSpindlePointLastButOneAfterReading) {
             moves({{1, 0, 0}, {2, 1, 1}, {2, 2, 2}, {6, 5, 5}, {1, 9, 9}}));
   // A spindle point that is the last action stays last.
   EXPECT_EQ(read.set.symbol(2).actions, moves({{1, 0, 0}, {2, 1, 1}, {6, 7, 7}}));
+
+  // Only the first of two spindle points moves, and only once, though the symbol limit ends
+  // the parse at the next header.
+  Read limited(1);
+  ASSERT_TRUE(
+      limited.text(crlf({header("VBSW"), actions({{1, 0, 0}, {6, 1, 1}, {6, 2, 2}, {2, 3, 3}}),
+                         actions({{1, 4, 4}}), header("VTSW")}),
+                   format("QUORN_ASCII")));
+  EXPECT_EQ(limited.set.symbol(1).actions,
+            moves({{1, 0, 0}, {6, 2, 2}, {2, 3, 3}, {6, 1, 1}, {1, 4, 4}}));
 }
 
 TEST(SymbolFileReader, StopsAtTheSymbolLimitWithOneMessage) {

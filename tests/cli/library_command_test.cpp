@@ -23,7 +23,7 @@ TEST(SpindlesCommand, TheSampleHoldsFifteenSpindles) {
   ASSERT_EQ(result.status, 0) << result.err;
   const std::string json = test::compactJson(result.out);
   EXPECT_EQ(json.rfind("{\"count\":15,", 0), 0u) << json.substr(0, 40);
-  EXPECT_NE(json.find("{\"number\":1,\"name\":\"HWSP\",\"segments\":[[0,0,0,60],"),
+  EXPECT_NE(json.find("{\"number\":1,\"name\":\"01SP\",\"segments\":[[0,0,0,60],"),
             std::string::npos);
 }
 

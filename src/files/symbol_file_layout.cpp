@@ -51,7 +51,7 @@ LineSection LayoutScanner::takeOther(std::string_view line) {
       const int record = recordNumber(line);
       if (record == kHeaderRecord) {
         phase_ = Phase::Body;
-        return bodyOrTail(line);
+        return LineSection::Body;
       }
       if (record == kTailMark) {
         phase_ = Phase::Tail;

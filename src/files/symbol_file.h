@@ -14,8 +14,9 @@ struct SymbolFileText {
   /// A test-string format's test line and the format's lead lines after it; the lead lines of
   /// a format without a test string.
   std::vector<std::string> leadLines;
-  /// The record lines as read (leading tabs removed), for the values view: filled only when
-  /// the reader is asked for them. A blank line between records keeps an empty slot.
+  /// The record lines as read (leading tabs and trailing blanks removed), for the values view:
+  /// filled only when the reader is asked for them. A blank line between records keeps an
+  /// empty slot.
   std::vector<std::string> bodyLines;
   /// Every line after the body.
   std::vector<std::string> tailLines;

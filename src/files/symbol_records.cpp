@@ -220,18 +220,4 @@ void SymbolRecordParser::finish() {
   closeSymbol();
 }
 
-bool parseSymbolRecords(const std::vector<std::string_view>& lines, std::string_view fileShown,
-                        SymbolCollection& symbols, RecordRules rules, Messages& messages) {
-  SymbolRecordParser parser(symbols, std::move(rules), messages);
-  for (std::size_t index = 0; index < lines.size() && !parser.stopped(); ++index) {
-    if (const auto problem = parser.parse(lines[index])) {
-      parser.finish();
-      messages.tell(faultInFileText(fileShown, index + 1, *problem));
-      return false;
-    }
-  }
-  parser.finish();
-  return true;
-}
-
 }  // namespace quorn

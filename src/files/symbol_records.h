@@ -8,7 +8,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/messages.h"
 #include "model/symbol_collection.h"
@@ -17,7 +16,6 @@ namespace quorn {
 
 inline constexpr std::int16_t kHeaderRecord = 501;
 inline constexpr std::int16_t kActionRecord = 502;
-inline constexpr std::int16_t kEndRecord = 999;
 
 /// Stands for a record number that does not fit a 16-bit integer; never a record.
 inline constexpr int kNoRecordNumber = INT_MIN;
@@ -100,11 +98,5 @@ class SymbolRecordParser {
   bool tappingFlag_ = false;  // set by an accepted tapping point, cleared by its message
   bool actionFlag_ = false;   // cleared by an accepted action, set by its message
 };
-
-/// Parses every line of `lines` (a whole file, say) with `rules`. When a coordinate does not
-/// fit, shows the fault with `fileShown` and the line number and returns false; what was
-/// parsed before it stays in `symbols`.
-bool parseSymbolRecords(const std::vector<std::string_view>& lines, std::string_view fileShown,
-                        SymbolCollection& symbols, RecordRules rules, Messages& messages);
 
 }  // namespace quorn

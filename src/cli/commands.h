@@ -15,5 +15,7 @@ int runLibrary(const Words& words, std::ostream& out, std::ostream& err);
 int runSpindles(const Words& words, std::ostream& out, std::ostream& err);
 int runConvert(const Words& words, std::ostream& out, std::ostream& err);
 int runList(const Words& words, std::ostream& out, std::ostream& err);
+int runCheckKeys(const Words& words, std::ostream& out, std::ostream& err);
+int runCheck(const Words& words, std::ostream& out, std::ostream& err);
 
 }  // namespace quorn::cli

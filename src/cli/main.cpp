@@ -19,6 +19,10 @@ constexpr Command kCommands[] = {
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
     {"convert", quorn::cli::runConvert, "convert IN OUT [--workdir DIR] [--force]"},
     {"list", quorn::cli::runList, "list FILE [--workdir DIR] [--json]"},
+    {"check-keys", quorn::cli::runCheckKeys,
+     "check-keys --group G --old O [--new N] [--spindle S] [--scale F] [--set FILE] [--editing K] "
+     "[--workdir DIR]"},
+    {"check", quorn::cli::runCheck, "check FILE [--workdir DIR] [--json]"},
 };
 
 int usage(std::ostream& err) {

@@ -7,12 +7,10 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/configuration_input.h"
 #include "cli/console_messages.h"
 #include "cli/workdir_option.h"
-#include "config/configuration_reader.h"
-#include "config/settings_reader.h"
-#include "files/file_names.h"
-#include "files/symbol_file_reader.h"
+#include "files/open_symbol_file.h"
 #include "files/symbol_file_writer.h"
 #include "files/writer_texts.h"
 
@@ -35,20 +33,13 @@ int runConvert(const Words& words, std::ostream& out, std::ostream& err) {
   const WorkingDirectory directory = workingDirectoryFrom(arguments);
   ConsoleMessages messages(err);
   Configuration config;
-  if (const auto fatal = readConfiguration(directory, config, messages)) {
-    err << fatal->text << '\n';
-    return 2;
-  }
   CurrentSet set;
-  set.reset(config.maxSymbolsInFile);
-  const auto format =
-      loadFormatStructure(directory, fileExtension(inName), config.writeBin, messages);
-  SymbolFileText text;
-  std::vector<std::string> listLabels;
-  if (!format || !readSymbolFile(inName, *format, set, text, listLabels, messages)) return 2;
+  if (!readConfigurationFor(directory, config, set, messages, err)) return 2;
+  const auto opened = openSymbolFile(directory, inName, config.writeBin, set, messages);
+  if (!opened) return 2;
 
   // IN is the open file: writing over it makes its backup first.
-  if (!writeSymbolFile(directory, outName, inName, set, text, config, messages)) return 2;
+  if (!writeSymbolFile(directory, outName, inName, set, opened->text, config, messages)) return 2;
   out << set.count() << " symbols written to " << outName << '\n';
   return 0;
 }

@@ -4,11 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/configuration_input.h"
 #include "cli/console_messages.h"
-#include "config/configuration_reader.h"
-#include "config/settings_reader.h"
-#include "files/file_names.h"
-#include "files/symbol_file_reader.h"
+#include "files/open_symbol_file.h"
 
 namespace quorn::cli {
 
@@ -16,18 +14,9 @@ bool readKeyCheckInput(const WorkingDirectory& directory,
                        const std::optional<std::string>& symbolFile, KeyCheckInput& input,
                        std::ostream& err) {
   ConsoleMessages messages(err);
-  if (const auto fatal = readConfiguration(directory, input.config, messages)) {
-    err << fatal->text << '\n';
-    return false;
-  }
-  input.set.reset(input.config.maxSymbolsInFile);
-  if (!symbolFile) return true;
-  const auto format =
-      loadFormatStructure(directory, fileExtension(*symbolFile), input.config.writeBin, messages);
-  if (!format) return false;
-  SymbolFileText text;
-  std::vector<std::string> labels;
-  return readSymbolFile(*symbolFile, *format, input.set, text, labels, messages);
+  if (!readConfigurationFor(directory, input.config, input.set, messages, err)) return false;
+  return !symbolFile ||
+         openSymbolFile(directory, *symbolFile, input.config.writeBin, input.set, messages);
 }
 
 std::optional<int> wholeNumber(const std::string& text) {

@@ -5,11 +5,11 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/configuration_input.h"
 #include "cli/console_messages.h"
 #include "cli/json_writer.h"
 #include "cli/symbol_json.h"
 #include "cli/workdir_option.h"
-#include "config/configuration_reader.h"
 #include "files/library_reader.h"
 #include "model/keys.h"
 
@@ -65,10 +65,8 @@ int runLibrary(const Words& words, std::ostream& out, std::ostream& err) {
   const WorkingDirectory directory = workingDirectoryFrom(arguments);
   ConsoleMessages messages(err);
   Configuration config;
-  if (const auto fatal = readConfiguration(directory, config, messages)) {
-    err << fatal->text << '\n';
-    return 2;
-  }
+  CurrentSet unused;
+  if (!readConfigurationFor(directory, config, unused, messages, err)) return 2;
   SymbolLibrary library;
   readLibrary(directory, library, config, messages);
   if (arguments.has("json")) {

@@ -6,14 +6,12 @@
 
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/configuration_input.h"
 #include "cli/console_messages.h"
 #include "cli/json_writer.h"
 #include "cli/symbol_json.h"
 #include "cli/workdir_option.h"
-#include "config/configuration_reader.h"
-#include "config/settings_reader.h"
-#include "files/file_names.h"
-#include "files/symbol_file_reader.h"
+#include "files/open_symbol_file.h"
 
 namespace quorn::cli {
 
@@ -34,10 +32,8 @@ class KeptMessages : public Messages {
 };
 
 struct Listing {
-  FormatStructure format;
   CurrentSet set;
-  SymbolFileText text;
-  std::vector<std::string> labels;
+  OpenedSymbolFile file;
 };
 
 void writeLines(JsonWriter& json, std::string_view name, const std::vector<std::string>& lines) {
@@ -50,12 +46,15 @@ void writeJson(const Listing& listing, const std::vector<std::string>& messages,
                std::ostream& out) {
   JsonWriter json(out);
   json.beginObject().key("format").beginObject();
-  json.key("extension").value(listing.format.extension).key("id").value(listing.format.id);
-  json.key("headlines").value(listing.format.headlines);
-  json.key("leadlines").value(listing.format.leadlines).endObject();
-  writeLines(json, "head", listing.text.headLines);
-  writeLines(json, "lead", listing.text.leadLines);
-  writeLines(json, "tail", listing.text.tailLines);
+  json.key("extension")
+      .value(listing.file.format.extension)
+      .key("id")
+      .value(listing.file.format.id);
+  json.key("headlines").value(listing.file.format.headlines);
+  json.key("leadlines").value(listing.file.format.leadlines).endObject();
+  writeLines(json, "head", listing.file.text.headLines);
+  writeLines(json, "lead", listing.file.text.leadLines);
+  writeLines(json, "tail", listing.file.text.tailLines);
   json.key("symbols").beginArray();
   for (int number = 1; number <= listing.set.count(); ++number) {
     writeSymbolJson(json, listing.set.symbol(number));
@@ -71,15 +70,16 @@ void writeLines(std::ostream& out, std::string_view name, const std::vector<std:
 }
 
 void writeText(const Listing& listing, std::ostream& out) {
-  out << "Format ." << listing.format.extension << ": ID " << listing.format.id << ", Headlines "
-      << listing.format.headlines << ", Leadlines " << listing.format.leadlines << '\n';
-  writeLines(out, "Head", listing.text.headLines);
-  writeLines(out, "Lead", listing.text.leadLines);
+  out << "Format ." << listing.file.format.extension << ": ID " << listing.file.format.id
+      << ", Headlines " << listing.file.format.headlines << ", Leadlines "
+      << listing.file.format.leadlines << '\n';
+  writeLines(out, "Head", listing.file.text.headLines);
+  writeLines(out, "Lead", listing.file.text.leadLines);
   for (int number = 1; number <= listing.set.count(); ++number) {
-    out << "Symbol " << number << ": " << listing.labels[number - 1] << '\n';
+    out << "Symbol " << number << ": " << listing.file.listLabels[number - 1] << '\n';
     writeSymbolText(out, listing.set.symbol(number));
   }
-  writeLines(out, "Tail", listing.text.tailLines);
+  writeLines(out, "Tail", listing.file.text.tailLines);
   out << listing.set.count() << " Symbols Loaded\n";
 }
 
@@ -95,20 +95,11 @@ int runList(const Words& words, std::ostream& out, std::ostream& err) {
   const WorkingDirectory directory = workingDirectoryFrom(arguments);
   KeptMessages messages(err);
   Configuration config;
-  if (const auto fatal = readConfiguration(directory, config, messages)) {
-    err << fatal->text << '\n';
-    return 2;
-  }
   Listing listing;
-  listing.set.reset(config.maxSymbolsInFile);
-  const auto format =
-      loadFormatStructure(directory, fileExtension(fileName), config.writeBin, messages);
-  if (!format) return 2;
-  listing.format = *format;
-  if (!readSymbolFile(fileName, listing.format, listing.set, listing.text, listing.labels,
-                      messages)) {
-    return 2;
-  }
+  if (!readConfigurationFor(directory, config, listing.set, messages, err)) return 2;
+  auto opened = openSymbolFile(directory, fileName, config.writeBin, listing.set, messages);
+  if (!opened) return 2;
+  listing.file = std::move(*opened);
   if (arguments.has("json")) {
     writeJson(listing, messages.texts, out);
   } else {

@@ -5,43 +5,17 @@
 #include <vector>
 
 #include "support/compact_json.h"
+#include "support/expected_skey_messages.h"
 #include "support/run_command.h"
 #include "support/temp_directory.h"
 
 namespace quorn {
 namespace {
 
+using namespace test;  // the expected messages
+
 using test::compactJson;
 using test::runSymbols;
-
-const std::string kStandard =
-    "You have specified a New SKEY name which is the same as one of the standard SKEYs. This is "
-    "not allowed. Please re-specify the New SKEY name, or if you wish to re-define the standard "
-    "SKEY, then enter its name in the Old Symbol Key box and leave the New Symbol Key box blank.";
-const std::string kNeedsEnd =
-    "If the Selected Old SKEY has variable End Conditions (eg VB**) then any additional New SKEY "
-    "must have End Conditions defined by its last 2 characters, ie **, BW, CP, SC, FL, SW, PL, "
-    "LC, LN, LR, or MP. To replace the standard Symbol for all end types, leave the New Symbol "
-    "Key box empty. We recommend that to replace a single end type, you enter the full SKEY in "
-    "the Old Symbol Key box (eg VBSW).";
-const std::string kLooksStandard =
-    "You have specified a New SKEY name which could be confused with a standard SKEY because its "
-    "first 2 characters match the specified Old SKEY and its last 2 characters match one of the "
-    "Standard End Types. Please re-specify the New SKEY name, or if you wish to re-define the "
-    "standard SKEY, then enter its name in the Old Symbol Key box and leave the New Symbol Key "
-    "box blank.";
-const std::string kInSet =
-    "You have specified a New SKEY name which is the same as one of the New SKEY names in the "
-    "current set. Please delete the earlier Symbol or re-specify the New SKEY name, or if you "
-    "wish to re-define the standard SKEY, then enter its name in the Old Symbol Key box and "
-    "leave the New Symbol Key box blank.";
-const std::string kSpindle =
-    "You have specified a Spindle SKEY which matches neither a Standard Spindle SKEY or any "
-    "redefined Spindle SKEY in the Current Set. Please re-specify the Spindle SKEY name.";
-const std::string kScale = "A Percentage Scale Factor must be defined";
-const std::string kInvalidStored =
-    "The Old SKEY specified for this symbol is invalid.Please Edit the symbol and Specified a "
-    "Valid Old SKEY.";
 
 struct Keys {
   std::string newKey;

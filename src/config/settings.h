@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "config/settings_texts.h"
+
 namespace quorn {
 
 inline constexpr int kMaxFormats = 10;
@@ -25,12 +27,12 @@ struct FormatStructure {
 };
 
 struct Settings {
-  std::string version = "No Version";
+  std::string version{kNoVersion};
   bool tipsOn = false;
   bool testingEnabled = false;
-  std::string defaultExtension = "None Specified";
+  std::string defaultExtension{kNoDefaultExtension};
   std::vector<FileFormat> formats;  // numbered from 1 in file order, held from index 0
-  std::string fileFilter = "All Files (*.*)|*.*";
+  std::string fileFilter{kAllFilesFilter};
   std::int16_t defaultFilterIndex = 0;
 };
 

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "config/settings_reader.h"
+#include "config/settings_texts.h"
 #include "files/backup.h"
 #include "files/binary_records.h"
 #include "files/file_names.h"
@@ -15,7 +16,6 @@ namespace quorn {
 
 namespace {
 
-constexpr std::string_view kAsciiFormat = "Quorn_ASCII";
 constexpr std::string_view kEndRecordMark = "999";
 // Buffers are handed to the outputs once they hold this much.
 constexpr std::size_t kDrainSize = 1 << 16;
@@ -139,7 +139,7 @@ const OutputFile* writeSymbolSet(CurrentSet& set, const SymbolFileText& fileText
       }
     }
   }
-  if (equalsIgnoringCase(format.id, kAsciiFormat)) {
+  if (equalsIgnoringCase(format.id, kQuornAsciiId)) {
     appendEndRecord(buffers.text);
     buffers.text += buffers.lineEnd;
   }

@@ -5,4 +5,4 @@ cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build/release --target symbols -j "$(nproc)" >/dev/null
-exec build/release/symbols config --workdir sample "$@"
+exec build/release/bin/symbols config --workdir sample "$@"

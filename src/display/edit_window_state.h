@@ -1,0 +1,38 @@
+#pragma once
+// Everything the edit window shows besides the drawing: captions, labels, lists and which
+// commands are enabled. The core writes it; the window only mirrors it.
+
+#include <string>
+#include <vector>
+
+namespace quorn {
+
+enum class Pointer { Normal, Busy, Crosshair };
+
+/// A list the user picks rows from (the symbol list, the group chooser).
+struct ListState {
+  std::vector<std::string> rows;
+  int selected = -1;  // 0-based row, -1 for none
+  bool enabled = true;
+};
+
+struct EditWindowState {
+  std::string caption = "User Defined Symbols Editor";
+  std::string prompt;
+  std::string countLabel;
+  std::string statusText;
+  std::string snapLabel = "Snap is On";
+  std::string charLabel = "Char is Off";
+  std::string hint;
+  std::string isoCaption = "Iso";
+  std::string eraseCaption = "Erase Symbol from Screen but Retain in Current Symbol Set";
+  Pointer pointer = Pointer::Normal;
+  ListState groupChooser;
+  ListState symbolList;
+  bool menusEnabled = true;
+  bool moveMenuVisible = false;
+  bool flipChoiceVisible = false;
+  bool isometric = false;
+};
+
+}  // namespace quorn

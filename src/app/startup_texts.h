@@ -1,0 +1,19 @@
+#pragma once
+// Every text that start-up and the small help dialogs show.
+
+#include <string>
+#include <string_view>
+
+namespace quorn {
+
+inline constexpr std::string_view kTipsFileName = "TIPS.TXT";
+inline constexpr std::string_view kHelpFileName = "SYMBOLS.HLP";
+inline constexpr std::string_view kReadMeFileName = "READMESY.TXT";
+inline constexpr std::string_view kMarkerFileName = "SYMBOLS.EXE";
+
+std::string tipsMissingText(std::string_view directoryShown);
+std::string tipsCorruptText();
+std::string helpMissingText(std::string_view directoryShown);
+std::string readMeMissingText();
+
+}  // namespace quorn

@@ -33,6 +33,9 @@ struct EditWindowState {
   bool moveMenuVisible = false;
   bool flipChoiceVisible = false;
   bool isometric = false;
+  /// The testing aids' values view: what the last Open read, shown when testing is enabled.
+  std::string valuesView;
+  bool valuesViewVisible = false;
 };
 
 }  // namespace quorn

@@ -24,4 +24,16 @@ std::string readMeMissingText() {
          ". Please load this file and try again.";
 }
 
+std::string markerMissingText(std::string_view directoryShown) {
+  return "The Working Directory is set to " + std::string(directoryShown) + "\n" +
+         "The Working Directory must point to the " + std::string(kMarkerFileName) + " file." +
+         "\n" + "Please reset the Working Directory in the Properties" + "\n" +
+         "for the Options File Editor icon to point to the " + "\n" + "directory in which " +
+         std::string(kMarkerFileName) + " was installed.";
+}
+
+std::string cannotFindText(std::string_view fileName) {
+  return "Can't find " + std::string(fileName);
+}
+
 }  // namespace quorn

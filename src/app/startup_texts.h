@@ -15,5 +15,10 @@ std::string tipsMissingText(std::string_view directoryShown);
 std::string tipsCorruptText();
 std::string helpMissingText(std::string_view directoryShown);
 std::string readMeMissingText();
+/// The working directory does not hold SYMBOLS.EXE.
+std::string markerMissingText(std::string_view directoryShown);
+/// The file named on the command line does not exist; shown under its own title.
+inline constexpr std::string_view kCannotFindTitle = "Symbols Editor";
+std::string cannotFindText(std::string_view fileName);
 
 }  // namespace quorn

@@ -12,6 +12,7 @@ using Words = std::vector<std::string>;
 
 int runConfig(const Words& words, std::ostream& out, std::ostream& err);
 int runLibrary(const Words& words, std::ostream& out, std::ostream& err);
+int runReplay(const Words& words, std::ostream& out, std::ostream& err);
 int runSpindles(const Words& words, std::ostream& out, std::ostream& err);
 int runConvert(const Words& words, std::ostream& out, std::ostream& err);
 int runList(const Words& words, std::ostream& out, std::ostream& err);

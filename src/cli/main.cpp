@@ -16,6 +16,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"config", quorn::cli::runConfig, "config [--workdir DIR] [--json]"},
     {"library", quorn::cli::runLibrary, "library [--workdir DIR] [--json]"},
+    {"replay", quorn::cli::runReplay, "replay SCRIPT [--workdir DIR]"},
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
     {"convert", quorn::cli::runConvert, "convert IN OUT [--workdir DIR] [--force]"},
     {"list", quorn::cli::runList, "list FILE [--workdir DIR] [--json]"},

@@ -1,0 +1,69 @@
+#include "app/editor.h"
+
+namespace quorn {
+
+Editor::Editor(Messages& messages, FileChooser& chooser, Environment& environment)
+    : messages_(messages), chooser_(chooser), environment_(environment) {}
+
+std::optional<FatalError> Editor::startFirstStage(const std::string& commandLine) {
+  return runFirstStage(startup_, commandLine, environment_, messages_);
+}
+
+std::optional<FatalError> Editor::startSecondStage() {
+  window_.pointer = Pointer::Busy;
+  SecondStageSteps steps;
+  steps.showEditWindow = [this]() -> std::optional<std::string> {
+    set_.reset(startup_.config.maxSymbolsInFile);
+    window_.groupChooser.rows = startup_.config.groupList;
+    window_.groupChooser.selected = window_.groupChooser.rows.empty() ? -1 : 0;
+    window_.caption = windowCaption(openFileName_);
+    return std::nullopt;
+  };
+  steps.openFile = [this](const std::string& fileName) {
+    auto context = fileContext();
+    openNamedFile(context, fileName);
+  };
+  auto fatal = runSecondStage(startup_, environment_, messages_, steps);
+  window_.pointer = Pointer::Normal;
+  return fatal;
+}
+
+FileCommandContext Editor::fileContext() {
+  return FileCommandContext{*startup_.directory, startup_.config, startup_.settings, set_,
+                            fileText_,           openFileName_,   working_,          state_,
+                            gridPlacement(),     window_,         messages_,         chooser_};
+}
+
+GridPlacement Editor::gridPlacement() const { return GridPlacement{}; }
+
+void Editor::newFile() {
+  auto context = fileContext();
+  quorn::newFile(context);
+}
+
+void Editor::openFile() {
+  auto context = fileContext();
+  quorn::openFile(context);
+}
+
+void Editor::saveFile() {
+  auto context = fileContext();
+  quorn::saveFile(context);
+}
+
+void Editor::saveFileAs() {
+  auto context = fileContext();
+  quorn::saveFileAs(context);
+}
+
+ExitDecision Editor::exitEditor() {
+  auto context = fileContext();
+  return quorn::exitEditor(context, false);
+}
+
+ExitDecision Editor::closeWindow() {
+  auto context = fileContext();
+  return quorn::exitEditor(context, true);
+}
+
+}  // namespace quorn

@@ -1,0 +1,67 @@
+#pragma once
+// The editor: one object that holds everything the program keeps for its whole run, and the
+// events of the edit window. The window, the command line and scripts all drive this object;
+// none of them decides anything itself.
+
+#include <optional>
+#include <string>
+
+#include "app/file_chooser.h"
+#include "app/file_commands.h"
+#include "app/startup.h"
+#include "base/environment.h"
+#include "base/messages.h"
+#include "display/edit_window_state.h"
+#include "files/symbol_file.h"
+#include "model/editor_state.h"
+#include "model/symbol_collection.h"
+#include "model/working_symbol.h"
+
+namespace quorn {
+
+class Editor {
+ public:
+  Editor(Messages& messages, FileChooser& chooser, Environment& environment);
+  Editor(const Editor&) = delete;
+  Editor& operator=(const Editor&) = delete;
+
+  /// The first start-up stage; a fault that ends the program is returned.
+  std::optional<FatalError> startFirstStage(const std::string& commandLine);
+  /// The second stage, run once when the start-up timer fires.
+  std::optional<FatalError> startSecondStage();
+
+  // The File menu and the window's close box.
+  void newFile();
+  void openFile();
+  void saveFile();
+  void saveFileAs();
+  ExitDecision exitEditor();
+  ExitDecision closeWindow();
+
+  const StartupData& startup() const { return startup_; }
+  const CurrentSet& currentSet() const { return set_; }
+  const SymbolFileText& fileText() const { return fileText_; }
+  const std::string& openFileName() const { return openFileName_; }
+  const WorkingSymbol& workingSymbol() const { return working_; }
+  const EditorState& state() const { return state_; }
+  const EditWindowState& window() const { return window_; }
+
+ private:
+  FileCommandContext fileContext();
+  /// Where the grid lies, for turning form units into stored units.
+  GridPlacement gridPlacement() const;
+
+  Messages& messages_;
+  FileChooser& chooser_;
+  Environment& environment_;
+
+  StartupData startup_;
+  CurrentSet set_;
+  SymbolFileText fileText_;
+  std::string openFileName_;
+  WorkingSymbol working_;
+  EditorState state_;
+  EditWindowState window_;
+};
+
+}  // namespace quorn

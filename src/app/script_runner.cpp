@@ -1,0 +1,262 @@
+#include "app/script_runner.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "app/editor.h"
+#include "app/script_words.h"
+#include "files/symbol_file_writer.h"
+
+namespace quorn {
+
+namespace {
+
+/// Answers the editor's questions and file dialogs from what the script queued, and writes
+/// each of them out as it is shown.
+class ScriptedUser : public Messages, public FileChooser {
+ public:
+  explicit ScriptedUser(std::ostream& out) : out_(out) {}
+
+  void queueAnswer(Answer answer) { answers_.push_back(answer); }
+  void queueFile(std::optional<std::string> name) { files_.push_back(std::move(name)); }
+
+  Answer ask(const Message& message) override {
+    Answer answer = Answer::Ok;
+    if (message.buttons != Buttons::Ok) {
+      if (answers_.empty()) {
+        unanswered_ =
+            "a question was asked with no answer queued: " + quotedScriptText(message.text);
+        answer = message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+      } else {
+        answer = answers_.front();
+        answers_.pop_front();
+      }
+    }
+    out_ << "message " << quotedScriptText(message.title) << ' ' << quotedScriptText(message.text)
+         << " [" << buttonsName(message.buttons) << "] " << iconName(message.icon) << " -> "
+         << answerName(answer) << '\n';
+    return answer;
+  }
+
+  std::optional<std::string> chooseFileToOpen(const FileDialogRequest& request) override {
+    return choose("open", request);
+  }
+  std::optional<std::string> chooseFileToSave(const FileDialogRequest& request) override {
+    return choose("save", request);
+  }
+
+  /// The problem of the event just run: a question or dialog that found no queued answer.
+  std::optional<std::string> takeProblem() { return std::exchange(unanswered_, std::nullopt); }
+
+ private:
+  std::optional<std::string> choose(std::string_view kind, const FileDialogRequest& request) {
+    std::optional<std::string> chosen;
+    if (files_.empty()) {
+      unanswered_ = "a file dialog was shown with no file queued";
+    } else {
+      chosen = files_.front();
+      files_.pop_front();
+    }
+    out_ << "file-dialog " << kind << ' ' << quotedScriptText(request.filter) << ' '
+         << request.filterIndex << ' ' << quotedScriptText(request.initialName) << " -> "
+         << (chosen ? quotedScriptText(*chosen) : "cancel") << '\n';
+    return chosen;
+  }
+
+  std::ostream& out_;
+  std::deque<Answer> answers_;
+  std::deque<std::optional<std::string>> files_;
+  std::optional<std::string> unanswered_;
+};
+
+/// The window's texts that the output follows, by the name it prints them under.
+const std::vector<std::pair<std::string_view, std::string EditWindowState::*>>& followedTexts() {
+  static const std::vector<std::pair<std::string_view, std::string EditWindowState::*>> texts = {
+      {"caption", &EditWindowState::caption},  {"prompt", &EditWindowState::prompt},
+      {"count", &EditWindowState::countLabel}, {"status", &EditWindowState::statusText},
+      {"snap", &EditWindowState::snapLabel},   {"char", &EditWindowState::charLabel},
+  };
+  return texts;
+}
+
+std::optional<Answer> answerNamed(std::string_view name) {
+  for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
+    if (answerName(answer) == name) return answer;
+  }
+  return std::nullopt;
+}
+
+class ScriptRunner {
+ public:
+  ScriptRunner(const std::filesystem::path& base, Environment& environment, std::ostream& out)
+      : base_(base), out_(out), user_(out), editor_(user_, user_, environment) {}
+
+  ScriptOutcome run(std::string_view script) {
+    std::size_t lineNumber = 0;
+    std::size_t start = 0;
+    while (start <= script.size() && !ended_) {
+      const std::size_t end = std::min(script.find('\n', start), script.size());
+      ++lineNumber;
+      if (auto problem = runLine(script.substr(start, end - start))) {
+        return ScriptOutcome{false, "line " + std::to_string(lineNumber) + ": " + *problem};
+      }
+      start = end + 1;
+    }
+    return ScriptOutcome{};
+  }
+
+ private:
+  std::optional<std::string> runLine(std::string_view line) {
+    const auto words = scriptWords(line);
+    if (!words) return "a quoted text is not closed";
+    if (words->empty()) return std::nullopt;
+    const std::string& verb = words->front();
+    const std::vector<std::string> rest(words->begin() + 1, words->end());
+    std::optional<std::string> problem;
+    if (verb == "start") {
+      problem = start(rest);
+    } else if (verb == "answer") {
+      problem = queueAnswer(rest);
+    } else if (verb == "file") {
+      problem = queueFile(rest);
+    } else if (verb == "menu") {
+      problem = menu(rest);
+    } else if (verb == "close") {
+      problem = started() ? decide(editor_.closeWindow()) : notStarted();
+    } else if (verb == "dump") {
+      problem = dump(rest);
+    } else {
+      problem = "unknown event '" + verb + "'";
+    }
+    if (!problem) problem = user_.takeProblem();
+    reportWindowChanges();
+    return problem;
+  }
+
+  bool started() const { return started_; }
+  static std::optional<std::string> notStarted() { return "the editor has not been started"; }
+
+  std::optional<std::string> start(const std::vector<std::string>& words) {
+    if (words.size() > 1) return "start takes at most one file name";
+    if (started_) return "the editor has already been started";
+    std::string commandLine = words.empty() ? std::string() : resolved(words[0]);
+    auto fatal = editor_.startFirstStage(commandLine);
+    if (!fatal) {
+      out_ << "startup " << quotedScriptText(editor_.startup().startupCaption) << '\n';
+      fatal = editor_.startSecondStage();
+    }
+    if (fatal) {
+      out_ << "fatal " << quotedScriptText(fatal->text) << "\nends\n";
+      ended_ = true;
+      return std::nullopt;
+    }
+    started_ = true;
+    return std::nullopt;
+  }
+
+  std::optional<std::string> queueAnswer(const std::vector<std::string>& words) {
+    if (words.empty()) return "answer needs Yes, No, OK or Cancel";
+    for (const std::string& word : words) {
+      const auto answer = answerNamed(word);
+      if (!answer) return "'" + word + "' is not an answer (Yes, No, OK, Cancel)";
+      user_.queueAnswer(*answer);
+    }
+    return std::nullopt;
+  }
+
+  std::optional<std::string> queueFile(const std::vector<std::string>& words) {
+    if (words.size() != 1) return "file takes one file name, or cancel";
+    user_.queueFile(words[0] == "cancel" ? std::nullopt
+                                         : std::optional<std::string>(resolved(words[0])));
+    return std::nullopt;
+  }
+
+  std::optional<std::string> menu(const std::vector<std::string>& words) {
+    if (!started()) return notStarted();
+    std::string path;
+    for (const std::string& word : words) path += (path.empty() ? "" : " ") + word;
+    const std::map<std::string, std::function<std::optional<std::string>()>> entries = {
+        {"File > New", [&] { return editor_.newFile(), std::optional<std::string>(); }},
+        {"File > Open", [&] { return editor_.openFile(), std::optional<std::string>(); }},
+        {"File > Save", [&] { return editor_.saveFile(), std::optional<std::string>(); }},
+        {"File > Save As", [&] { return editor_.saveFileAs(), std::optional<std::string>(); }},
+        {"File > Exit", [&] { return decide(editor_.exitEditor()); }},
+    };
+    const auto entry = entries.find(path);
+    if (entry == entries.end()) return "unknown menu entry '" + path + "'";
+    return entry->second();
+  }
+
+  std::optional<std::string> decide(ExitDecision decision) {
+    if (decision == ExitDecision::EndProgram) {
+      out_ << "ends\n";
+      ended_ = true;
+    }
+    return std::nullopt;
+  }
+
+  std::optional<std::string> dump(const std::vector<std::string>& words) {
+    if (words.size() != 1) return "dump takes one of: set, window";
+    if (words[0] == "set") {
+      const CurrentSet& set = editor_.currentSet();
+      out_ << "set " << set.count() << " symbols" << (set.changed ? ", changed" : "") << '\n';
+      RecordBuffers records;
+      records.lineEnd = "\n";
+      for (int number = 1; number <= set.count(); ++number) {
+        writeSymbolRecords(set.symbol(number), records);
+      }
+      out_ << records.text;
+      return std::nullopt;
+    }
+    if (words[0] == "window") {
+      const EditWindowState& window = editor_.window();
+      for (const auto& [name, field] : followedTexts()) {
+        out_ << name << ' ' << quotedScriptText(window.*field) << '\n';
+      }
+      for (const std::string& row : window.symbolList.rows) {
+        out_ << "symbol-row " << quotedScriptText(row) << '\n';
+      }
+      for (const std::string& row : window.groupChooser.rows) {
+        out_ << "group-row " << quotedScriptText(row) << '\n';
+      }
+      return std::nullopt;
+    }
+    return "dump takes one of: set, window";
+  }
+
+  void reportWindowChanges() {
+    const EditWindowState& window = editor_.window();
+    for (const auto& [name, field] : followedTexts()) {
+      if (shown_.*field != window.*field)
+        out_ << name << ' ' << quotedScriptText(window.*field) << '\n';
+    }
+    shown_ = window;
+  }
+
+  std::string resolved(const std::string& name) const {
+    const std::filesystem::path path(name);
+    return path.is_absolute() ? name : (base_ / path).string();
+  }
+
+  std::filesystem::path base_;
+  std::ostream& out_;
+  ScriptedUser user_;
+  Editor editor_;
+  EditWindowState shown_;
+  bool started_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace
+
+ScriptOutcome runScript(std::string_view script, const std::filesystem::path& baseDirectory,
+                        Environment& environment, std::ostream& out) {
+  return ScriptRunner(baseDirectory, environment, out).run(script);
+}
+
+}  // namespace quorn

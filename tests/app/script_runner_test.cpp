@@ -1,0 +1,93 @@
+#include "app/script_runner.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "support/fake_environment.h"
+#include "support/temp_directory.h"
+
+namespace quorn {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Scripts run in a copy of the sample working directory.
+class ScriptRunnerTest : public ::testing::Test {
+ protected:
+  ScriptRunnerTest() {
+    for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
+      fs::copy_file(entry.path(), temp.path() / entry.path().filename());
+    }
+    environment.current = temp.path();
+  }
+
+  ScriptOutcome run(std::string_view script) {
+    output.str("");
+    return runScript(script, temp.path(), environment, output);
+  }
+
+  test::TempDirectory temp;
+  test::FakeEnvironment environment;
+  std::ostringstream output;
+};
+
+TEST_F(ScriptRunnerTest, OpenSaveAsAndReopenGiveTheSameSet) {
+  ASSERT_TRUE(run("start\nfile EXAMPLE.IDF\nmenu File > Open\ndump set\n"
+                  "answer OK\nfile COPY.IDF\nmenu File > Save As\n")
+                  .ok)
+      << output.str();
+  const std::string first = output.str();
+  const auto setStart = first.find("set 4 symbols\n");
+  ASSERT_NE(setStart, std::string::npos) << first;
+  const std::string dumped = first.substr(setStart, first.find("file-dialog save") - setStart);
+  EXPECT_NE(first.find("caption \"User Defined Symbols Editor    " +
+                       (temp.path() / "COPY.IDF").string() + "\""),
+            std::string::npos)
+      << first;
+
+  ASSERT_TRUE(run("start\nfile COPY.IDF\nmenu File > Open\ndump set\n").ok) << output.str();
+  EXPECT_NE(output.str().find(dumped), std::string::npos) << output.str();
+}
+
+TEST_F(ScriptRunnerTest, StartUpWarningsAndFaultsAreShown) {
+  fs::remove(temp.path() / "SYMBOLS.LIB");
+  ASSERT_TRUE(run("start MISSING.SYM\ndump window\n").ok);
+  const std::string shown = output.str();
+  EXPECT_NE(shown.find("message \"Quorn Symbols Editor\" \"SYMBOLS.LIB not found in the "),
+            std::string::npos)
+      << shown;
+  EXPECT_NE(shown.find("message \"Symbols Editor\" \"Can't find " +
+                       (temp.path() / "MISSING.SYM").string() + "\" [OK] exclamation -> OK"),
+            std::string::npos)
+      << shown;
+  EXPECT_NE(shown.find("group-row \"Redefining Valves\""), std::string::npos) << shown;
+
+  fs::remove(temp.path() / "SYMBOLS.EXE");
+  ASSERT_TRUE(run("start\nmenu File > New\n").ok);
+  EXPECT_EQ(output.str().rfind("startup ", 0), 0u);
+  EXPECT_NE(output.str().find("\nfatal \"The Working Directory is set to "), std::string::npos);
+  EXPECT_EQ(output.str().substr(output.str().size() - 5), "ends\n") << "nothing runs after";
+}
+
+TEST_F(ScriptRunnerTest, ScriptMistakesNameTheirLine) {
+  EXPECT_EQ(run("start\n\nfly away\n").error, "line 3: unknown event 'fly'");
+  EXPECT_EQ(run("menu File > Open\n").error, "line 1: the editor has not been started");
+  EXPECT_EQ(run("start\nmenu File > Exit\n").error,
+            "line 2: a question was asked with no answer queued: \"              Select OK to "
+            "quit\\nor Cancel to Cancel this Action\"");
+  EXPECT_EQ(run("start\nmenu File > Open\n").error,
+            "line 2: a file dialog was shown with no file queued");
+  EXPECT_EQ(run("answer Maybe\n").error, "line 1: 'Maybe' is not an answer (Yes, No, OK, Cancel)");
+  EXPECT_EQ(run("dump \"set\n").error, "line 1: a quoted text is not closed");
+}
+
+TEST_F(ScriptRunnerTest, ClosingTheWindowWithUnsavedWorkAsksYesOrNo) {
+  ASSERT_TRUE(run("start\nfile EXAMPLE.SYM\nmenu File > Open\nclose\n").ok) << output.str();
+  EXPECT_NE(output.str().find("\nends\n"), std::string::npos) << "nothing changed: no question";
+  EXPECT_EQ(output.str().find("message"), std::string::npos) << output.str();
+}
+
+}  // namespace
+}  // namespace quorn

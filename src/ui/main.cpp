@@ -1,0 +1,53 @@
+// symbols-editor: the edit window over the editor's core.
+
+#include <QApplication>
+#include <QLabel>
+#include <QStringList>
+#include <QTimer>
+
+#include "app/editor.h"
+#include "ui/main_window.h"
+#include "ui/qt_environment.h"
+#include "ui/qt_file_chooser.h"
+#include "ui/qt_messages.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  quorn::ui::QtMessages messages;
+  quorn::ui::QtFileChooser chooser;
+  quorn::ui::QtEnvironment environment;
+  quorn::Editor editor(messages, chooser, environment);
+
+  // The whole command line names the file to open.
+  const QStringList arguments = QApplication::arguments().mid(1);
+  const auto showFatal = [&](const quorn::FatalError& fatal) {
+    messages.ask(quorn::Message{std::string(quorn::kAppTitle), fatal.text});
+  };
+  if (const auto fatal = editor.startFirstStage(arguments.join(' ').toStdString())) {
+    showFatal(*fatal);
+    return 1;
+  }
+
+  QLabel startupWindow(QString::fromUtf8(quorn::kStartupWindowText.data(),
+                                         static_cast<qsizetype>(quorn::kStartupWindowText.size())));
+  startupWindow.setWindowTitle(QString::fromStdString(editor.startup().startupCaption));
+  startupWindow.setAlignment(Qt::AlignCenter);
+  startupWindow.setMinimumSize(480, 160);
+  startupWindow.show();
+
+  quorn::ui::MainWindow window(editor);
+  messages.setParent(&window);
+  chooser.setParent(&window);
+  QTimer::singleShot(1000, [&] {
+    const auto fatal = editor.startSecondStage();
+    startupWindow.close();
+    if (fatal) {
+      showFatal(*fatal);
+      QApplication::exit(1);
+      return;
+    }
+    window.refresh();
+    window.show();
+  });
+  return QApplication::exec();
+}

@@ -1,0 +1,120 @@
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace quorn::ui {
+
+namespace {
+
+QString text(const std::string& value) {
+  return QString::fromStdString(value);
+}
+
+void mirrorList(QComboBox* box, const ListState& list) {
+  QStringList rows;
+  for (const std::string& row : list.rows) rows << text(row);
+  QStringList shown;
+  for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
+  if (shown != rows) {
+    box->clear();
+    box->addItems(rows);
+  }
+  box->setCurrentIndex(list.selected);
+  box->setEnabled(list.enabled);
+}
+
+void mirrorList(QListWidget* widget, const ListState& list) {
+  QStringList rows;
+  for (const std::string& row : list.rows) rows << text(row);
+  QStringList shown;
+  for (int i = 0; i < widget->count(); ++i) shown << widget->item(i)->text();
+  if (shown != rows) {
+    widget->clear();
+    widget->addItems(rows);
+  }
+  widget->setCurrentRow(list.selected);
+  widget->setEnabled(list.enabled);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Editor& editor)
+    : editor_(editor),
+      groupChooser_(new QComboBox),
+      symbolList_(new QListWidget),
+      prompt_(new QLabel),
+      countLabel_(new QLabel),
+      snapLabel_(new QLabel),
+      charLabel_(new QLabel),
+      status_(new QLabel) {
+  auto* central = new QWidget;
+  auto* layout = new QVBoxLayout(central);
+  layout->addWidget(groupChooser_);
+  symbolList_->setFont(QFont(QStringLiteral("monospace")));
+  layout->addWidget(symbolList_, 1);
+  layout->addWidget(prompt_);
+  auto* labels = new QHBoxLayout;
+  for (QLabel* label : {countLabel_, snapLabel_, charLabel_, status_}) labels->addWidget(label);
+  layout->addLayout(labels);
+  setCentralWidget(central);
+  buildMenus();
+  refresh();
+}
+
+void MainWindow::buildMenus() {
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  file->addAction(tr("&New"), QKeySequence::New, this,
+                  [this] { run([this] { editor_.newFile(); }); });
+  file->addAction(tr("&Open..."), QKeySequence::Open, this,
+                  [this] { run([this] { editor_.openFile(); }); });
+  file->addAction(tr("&Save"), QKeySequence::Save, this,
+                  [this] { run([this] { editor_.saveFile(); }); });
+  file->addAction(tr("Save &As..."), QKeySequence(tr("Ctrl+Shift+S")), this,
+                  [this] { run([this] { editor_.saveFileAs(); }); });
+  file->addSeparator();
+  file->addAction(tr("E&xit"), QKeySequence::Quit, this,
+                  [this] { exitIfDecided(editor_.exitEditor()); });
+}
+
+void MainWindow::refresh() {
+  const EditWindowState& window = editor_.window();
+  setWindowTitle(text(window.caption));
+  prompt_->setText(text(window.prompt));
+  countLabel_->setText(text(window.countLabel));
+  snapLabel_->setText(text(window.snapLabel));
+  charLabel_->setText(text(window.charLabel));
+  status_->setText(text(window.statusText));
+  mirrorList(groupChooser_, window.groupChooser);
+  mirrorList(symbolList_, window.symbolList);
+  menuBar()->setEnabled(window.menusEnabled);
+  switch (window.pointer) {
+    case Pointer::Busy:
+      QApplication::setOverrideCursor(Qt::WaitCursor);
+      break;
+    default:
+      while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
+  }
+}
+
+void MainWindow::exitIfDecided(ExitDecision decision) {
+  refresh();
+  if (decision == ExitDecision::EndProgram) QApplication::exit(0);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  const ExitDecision decision = editor_.closeWindow();
+  refresh();
+  if (decision == ExitDecision::EndProgram) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace quorn::ui

@@ -1,0 +1,45 @@
+#pragma once
+// The edit window: it shows the editor's state and hands every user event to the editor.
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMainWindow>
+
+#include "app/editor.h"
+
+namespace quorn::ui {
+
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Editor& editor);
+
+  /// Mirrors the editor's window state: captions, labels, lists.
+  void refresh();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void buildMenus();
+  /// Runs an editor command and shows what it changed.
+  template <typename Command>
+  void run(Command command) {
+    command();
+    refresh();
+  }
+  void exitIfDecided(ExitDecision decision);
+
+  Editor& editor_;
+  QComboBox* groupChooser_;
+  QListWidget* symbolList_;
+  QLabel* prompt_;
+  QLabel* countLabel_;
+  QLabel* snapLabel_;
+  QLabel* charLabel_;
+  QLabel* status_;
+};
+
+}  // namespace quorn::ui

@@ -19,6 +19,10 @@ std::optional<FatalError> Editor::startSecondStage() {
     window_.caption = windowCaption(openFileName_);
     return std::nullopt;
   };
+  steps.showTips = [this] {
+    window_.tipText = startup_.tips.texts.at(static_cast<std::size_t>(startup_.chosenTip));
+    window_.tipsDialogVisible = true;
+  };
   steps.openFile = [this](const std::string& fileName) {
     auto context = fileContext();
     openNamedFile(context, fileName);
@@ -34,7 +38,9 @@ FileCommandContext Editor::fileContext() {
                             gridPlacement(),     window_,         messages_,         chooser_};
 }
 
-GridPlacement Editor::gridPlacement() const { return GridPlacement{}; }
+GridPlacement Editor::gridPlacement() const {
+  return GridPlacement{};
+}
 
 void Editor::newFile() {
   auto context = fileContext();

@@ -30,6 +30,9 @@ class Editor {
   /// The second stage, run once when the start-up timer fires.
   std::optional<FatalError> startSecondStage();
 
+  /// The tips dialog's "&Close" button.
+  void closeTipsDialog() { window_.tipsDialogVisible = false; }
+
   // The File menu and the window's close box.
   void newFile();
   void openFile();

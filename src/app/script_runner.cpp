@@ -126,6 +126,8 @@ class ScriptRunner {
       problem = queueFile(rest);
     } else if (verb == "menu") {
       problem = menu(rest);
+    } else if (verb == "close-tips") {
+      problem = started() ? (editor_.closeTipsDialog(), std::nullopt) : notStarted();
     } else if (verb == "close") {
       problem = started() ? decide(editor_.closeWindow()) : notStarted();
     } else if (verb == "dump") {
@@ -231,6 +233,9 @@ class ScriptRunner {
 
   void reportWindowChanges() {
     const EditWindowState& window = editor_.window();
+    if (window.tipsDialogVisible && !shown_.tipsDialogVisible) {
+      out_ << "tips-dialog " << quotedScriptText(window.tipText) << '\n';
+    }
     for (const auto& [name, field] : followedTexts()) {
       if (shown_.*field != window.*field)
         out_ << name << ' ' << quotedScriptText(window.*field) << '\n';

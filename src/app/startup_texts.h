@@ -11,6 +11,10 @@ inline constexpr std::string_view kHelpFileName = "SYMBOLS.HLP";
 inline constexpr std::string_view kReadMeFileName = "READMESY.TXT";
 inline constexpr std::string_view kMarkerFileName = "SYMBOLS.EXE";
 
+inline constexpr std::string_view kTipsDialogTitle = "User Tips";
+inline constexpr std::string_view kTipsDialogNote =
+    "For information on how to disable User Tips at Start Up, please see README.TXT.";
+
 std::string tipsMissingText(std::string_view directoryShown);
 std::string tipsCorruptText();
 std::string helpMissingText(std::string_view directoryShown);

@@ -36,6 +36,9 @@ struct EditWindowState {
   /// The testing aids' values view: what the last Open read, shown when testing is enabled.
   std::string valuesView;
   bool valuesViewVisible = false;
+  /// The tips dialog of start-up with the chosen tip's text.
+  std::string tipText;
+  bool tipsDialogVisible = false;
 };
 
 }  // namespace quorn

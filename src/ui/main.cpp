@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     }
     window.refresh();
     window.show();
+    window.showTipsIfAsked();
   });
   return QApplication::exec();
 }

@@ -5,8 +5,11 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QStatusBar>
 #include <QVBoxLayout>
+
+#include "app/startup_texts.h"
 
 namespace quorn::ui {
 
@@ -100,6 +103,18 @@ void MainWindow::refresh() {
     default:
       while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
   }
+}
+
+void MainWindow::showTipsIfAsked() {
+  const EditWindowState& window = editor_.window();
+  if (!window.tipsDialogVisible) return;
+  QMessageBox tips(this);
+  tips.setWindowTitle(text(std::string(kTipsDialogTitle)));
+  tips.setText(text(window.tipText) + QStringLiteral("\n\n") + text(std::string(kTipsDialogNote)));
+  tips.addButton(tr("&Close"), QMessageBox::AcceptRole);
+  tips.exec();
+  editor_.closeTipsDialog();
+  refresh();
 }
 
 void MainWindow::exitIfDecided(ExitDecision decision) {

@@ -18,6 +18,8 @@ class MainWindow : public QMainWindow {
 
   /// Mirrors the editor's window state: captions, labels, lists.
   void refresh();
+  /// The tips dialog of start-up, when the editor asks for it.
+  void showTipsIfAsked();
 
  protected:
   void closeEvent(QCloseEvent* event) override;

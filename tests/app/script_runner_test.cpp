@@ -63,6 +63,9 @@ TEST_F(ScriptRunnerTest, StartUpWarningsAndFaultsAreShown) {
             std::string::npos)
       << shown;
   EXPECT_NE(shown.find("group-row \"Redefining Valves\""), std::string::npos) << shown;
+  // The sample switches the tips on; the test's random number 0.5 picks tip 4 of 6.
+  EXPECT_NE(shown.find("tips-dialog \"A valve that carries a spindle"), std::string::npos)
+      << shown;
 
   fs::remove(temp.path() / "SYMBOLS.EXE");
   ASSERT_TRUE(run("start\nmenu File > New\n").ok);

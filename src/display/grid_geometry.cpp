@@ -27,12 +27,6 @@ GridLayout fault(std::string problem) {
   return GridLayout{std::nullopt, std::move(problem)};
 }
 
-// The stored value of a distance from the grid's bottom-left corner, as storing a point
-// computes it: single precision, cut towards minus infinity.
-float storedValue(long long formDistance, float unitsPerMm) {
-  return std::floor(static_cast<float>(formDistance) / unitsPerMm * 100.0f);
-}
-
 // The smallest form distance whose stored value reaches `stored`. The exact quotient lands
 // on it or next to it; the steps only make up for single precision, and are bounded so that
 // a scale beyond single precision's reach settles for the exact quotient.

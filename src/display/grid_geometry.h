@@ -13,10 +13,6 @@
 
 namespace quorn {
 
-/// The grid's top-left corner on the drawing surface, in form units.
-inline constexpr std::int32_t kGridLeft = 1100;
-inline constexpr std::int32_t kGridTop = 500;
-
 struct GridGeometry {
   std::int16_t divisions = 0;   // grid divisions across
   std::int16_t spacing = 0;     // one division, in form units

@@ -6,16 +6,16 @@ namespace quorn {
 
 namespace {
 
-constexpr std::int32_t kGridLeft = 1100;
-constexpr std::int32_t kGridTop = 500;
-
 std::int16_t storedUnits(std::int32_t formUnitsFromOrigin, float unitsPerMm) {
-  // Single precision throughout, as the grid factor is held.
-  const float value = std::floor(static_cast<float>(formUnitsFromOrigin) / unitsPerMm * 100.0f);
-  return static_cast<std::int16_t>(value);
+  return static_cast<std::int16_t>(storedValue(formUnitsFromOrigin, unitsPerMm));
 }
 
 }  // namespace
+
+float storedValue(long long formDistance, float unitsPerMm) {
+  // Single precision throughout, as the grid factor is held.
+  return std::floor(static_cast<float>(formDistance) / unitsPerMm * 100.0f);
+}
 
 SymbolAction storedAction(std::int16_t type, std::int32_t formX, std::int32_t formY,
                           const GridPlacement& grid) {

@@ -26,6 +26,14 @@ struct WorkingSymbol : SymbolText {
   std::array<WorkingAction, kWorkingSlots> slots{};
 };
 
+/// The grid's top-left corner on the drawing surface, in form units.
+inline constexpr std::int32_t kGridLeft = 1100;
+inline constexpr std::int32_t kGridTop = 500;
+
+/// The stored value of a distance in form units from the grid's bottom-left corner:
+/// hundredths of a millimetre in single precision, cut towards minus infinity.
+float storedValue(long long formDistance, float unitsPerMm);
+
 /// Where the grid lies on the drawing surface: what turns form units into stored units.
 struct GridPlacement {
   float unitsPerMm = 1.0f;      // form units per millimetre

@@ -1,9 +1,11 @@
 #include "app/editor.h"
 
+#include "display/redraw.h"
+
 namespace quorn {
 
-Editor::Editor(Messages& messages, FileChooser& chooser, Environment& environment)
-    : messages_(messages), chooser_(chooser), environment_(environment) {}
+Editor::Editor(Messages& messages, FileChooser& chooser, Environment& environment, Canvas& canvas)
+    : messages_(messages), chooser_(chooser), environment_(environment), canvas_(canvas) {}
 
 std::optional<FatalError> Editor::startFirstStage(const std::string& commandLine) {
   return runFirstStage(startup_, commandLine, environment_, messages_);
@@ -13,10 +15,14 @@ std::optional<FatalError> Editor::startSecondStage() {
   window_.pointer = Pointer::Busy;
   SecondStageSteps steps;
   steps.showEditWindow = [this]() -> std::optional<std::string> {
+    const GridLayout layout = layOutGrid(startup_.config, environment_.screenSize());
+    if (!layout.geometry) return layout.problem;
+    grid_ = *layout.geometry;
     set_.reset(startup_.config.maxSymbolsInFile);
     window_.groupChooser.rows = startup_.config.groupList;
     window_.groupChooser.selected = window_.groupChooser.rows.empty() ? -1 : 0;
     window_.caption = windowCaption(openFileName_);
+    redrawGrid(canvas_, grid_, startup_.config);
     return std::nullopt;
   };
   steps.showTips = [this] {
@@ -39,7 +45,7 @@ FileCommandContext Editor::fileContext() {
 }
 
 GridPlacement Editor::gridPlacement() const {
-  return GridPlacement{};
+  return quorn::gridPlacement(grid_);
 }
 
 void Editor::newFile() {

@@ -11,7 +11,9 @@
 #include "app/startup.h"
 #include "base/environment.h"
 #include "base/messages.h"
+#include "display/canvas.h"
 #include "display/edit_window_state.h"
+#include "display/grid_geometry.h"
 #include "files/symbol_file.h"
 #include "model/editor_state.h"
 #include "model/symbol_collection.h"
@@ -21,7 +23,7 @@ namespace quorn {
 
 class Editor {
  public:
-  Editor(Messages& messages, FileChooser& chooser, Environment& environment);
+  Editor(Messages& messages, FileChooser& chooser, Environment& environment, Canvas& canvas);
   Editor(const Editor&) = delete;
   Editor& operator=(const Editor&) = delete;
 
@@ -48,6 +50,7 @@ class Editor {
   const WorkingSymbol& workingSymbol() const { return working_; }
   const EditorState& state() const { return state_; }
   const EditWindowState& window() const { return window_; }
+  const GridGeometry& grid() const { return grid_; }
 
  private:
   FileCommandContext fileContext();
@@ -57,6 +60,7 @@ class Editor {
   Messages& messages_;
   FileChooser& chooser_;
   Environment& environment_;
+  Canvas& canvas_;
 
   StartupData startup_;
   CurrentSet set_;
@@ -65,6 +69,7 @@ class Editor {
   WorkingSymbol working_;
   EditorState state_;
   EditWindowState window_;
+  GridGeometry grid_;
 };
 
 }  // namespace quorn

@@ -4,12 +4,15 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "app/editor.h"
 #include "app/script_words.h"
+#include "config/palette.h"
+#include "display/display_list.h"
 #include "files/symbol_file_writer.h"
 
 namespace quorn {
@@ -84,6 +87,31 @@ const std::vector<std::pair<std::string_view, std::string EditWindowState::*>>& 
   return texts;
 }
 
+std::string_view penStyleName(PenStyle style) {
+  switch (style) {
+    case PenStyle::Solid:
+      return "solid";
+    case PenStyle::Dotted:
+      return "dotted";
+    case PenStyle::Dashed:
+      return "dashed";
+  }
+  return "";
+}
+
+/// "line X1 Y1 X2 Y2 COLOUR STYLE WIDTH" or "circle X Y R COLOUR STYLE WIDTH".
+std::string drawCallText(const DrawCall& call) {
+  std::ostringstream text;
+  if (call.kind == DrawCall::Kind::Line) {
+    text << "line " << call.x1 << ' ' << call.y1 << ' ' << call.x2 << ' ' << call.y2;
+  } else {
+    text << "circle " << call.x1 << ' ' << call.y1 << ' ' << call.radius;
+  }
+  text << ' ' << colourName(call.pen.colour) << ' ' << penStyleName(call.pen.style) << ' '
+       << call.pen.width;
+  return text.str();
+}
+
 std::optional<Answer> answerNamed(std::string_view name) {
   for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
     if (answerName(answer) == name) return answer;
@@ -94,7 +122,7 @@ std::optional<Answer> answerNamed(std::string_view name) {
 class ScriptRunner {
  public:
   ScriptRunner(const std::filesystem::path& base, Environment& environment, std::ostream& out)
-      : base_(base), out_(out), user_(out), editor_(user_, user_, environment) {}
+      : base_(base), out_(out), user_(out), editor_(user_, user_, environment, drawing_) {}
 
   ScriptOutcome run(std::string_view script) {
     std::size_t lineNumber = 0;
@@ -203,7 +231,11 @@ class ScriptRunner {
   }
 
   std::optional<std::string> dump(const std::vector<std::string>& words) {
-    if (words.size() != 1) return "dump takes one of: set, window";
+    if (words.size() != 1) return "dump takes one of: set, window, canvas";
+    if (words[0] == "canvas") {
+      for (const DrawCall& call : drawing_.calls()) out_ << drawCallText(call) << '\n';
+      return std::nullopt;
+    }
     if (words[0] == "set") {
       const CurrentSet& set = editor_.currentSet();
       out_ << "set " << set.count() << " symbols" << (set.changed ? ", changed" : "") << '\n';
@@ -228,7 +260,7 @@ class ScriptRunner {
       }
       return std::nullopt;
     }
-    return "dump takes one of: set, window";
+    return "dump takes one of: set, window, canvas";
   }
 
   void reportWindowChanges() {
@@ -251,6 +283,7 @@ class ScriptRunner {
   std::filesystem::path base_;
   std::ostream& out_;
   ScriptedUser user_;
+  DisplayList drawing_;
   Editor editor_;
   EditWindowState shown_;
   bool started_ = false;

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "app/editor.h"
+#include "ui/drawing_surface.h"
 #include "ui/main_window.h"
 #include "ui/qt_environment.h"
 #include "ui/qt_file_chooser.h"
@@ -16,7 +17,8 @@ int main(int argc, char** argv) {
   quorn::ui::QtMessages messages;
   quorn::ui::QtFileChooser chooser;
   quorn::ui::QtEnvironment environment;
-  quorn::Editor editor(messages, chooser, environment);
+  auto* surface = new quorn::ui::DrawingSurface;
+  quorn::Editor editor(messages, chooser, environment, *surface);
 
   // The whole command line names the file to open.
   const QStringList arguments = QApplication::arguments().mid(1);
@@ -35,7 +37,7 @@ int main(int argc, char** argv) {
   startupWindow.setMinimumSize(480, 160);
   startupWindow.show();
 
-  quorn::ui::MainWindow window(editor);
+  quorn::ui::MainWindow window(editor, surface);
   messages.setParent(&window);
   chooser.setParent(&window);
   QTimer::singleShot(1000, [&] {

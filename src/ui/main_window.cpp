@@ -47,8 +47,9 @@ void mirrorList(QListWidget* widget, const ListState& list) {
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor)
+MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
     : editor_(editor),
+      surface_(surface),
       groupChooser_(new QComboBox),
       symbolList_(new QListWidget),
       prompt_(new QLabel),
@@ -58,9 +59,14 @@ MainWindow::MainWindow(Editor& editor)
       status_(new QLabel) {
   auto* central = new QWidget;
   auto* layout = new QVBoxLayout(central);
-  layout->addWidget(groupChooser_);
+  auto* lists = new QVBoxLayout;
+  lists->addWidget(groupChooser_);
   symbolList_->setFont(QFont(QStringLiteral("monospace")));
-  layout->addWidget(symbolList_, 1);
+  lists->addWidget(symbolList_, 1);
+  auto* body = new QHBoxLayout;
+  body->addLayout(lists, 1);
+  body->addWidget(surface_, 3);
+  layout->addLayout(body, 1);
   layout->addWidget(prompt_);
   auto* labels = new QHBoxLayout;
   for (QLabel* label : {countLabel_, snapLabel_, charLabel_, status_}) labels->addWidget(label);
@@ -88,6 +94,7 @@ void MainWindow::buildMenus() {
 void MainWindow::refresh() {
   const EditWindowState& window = editor_.window();
   setWindowTitle(text(window.caption));
+  surface_->setGrid(editor_.grid());
   prompt_->setText(text(window.prompt));
   countLabel_->setText(text(window.countLabel));
   snapLabel_->setText(text(window.snapLabel));

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "app/editor.h"
+#include "ui/drawing_surface.h"
 
 namespace quorn::ui {
 
@@ -14,7 +15,8 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Editor& editor);
+  /// `surface` is the canvas the editor draws on; the window takes it over.
+  MainWindow(Editor& editor, DrawingSurface* surface);
 
   /// Mirrors the editor's window state: captions, labels, lists.
   void refresh();
@@ -35,6 +37,7 @@ class MainWindow : public QMainWindow {
   void exitIfDecided(ExitDecision decision);
 
   Editor& editor_;
+  DrawingSurface* surface_;
   QComboBox* groupChooser_;
   QListWidget* symbolList_;
   QLabel* prompt_;

@@ -1,0 +1,38 @@
+#pragma once
+// The drawing surface of the edit window. The editor draws on it in form units; it keeps the
+// drawing and paints it scaled to its size, so the window can be resized and works on any
+// screen without a stored coordinate changing.
+
+#include <QWidget>
+#include <functional>
+
+#include "display/display_list.h"
+#include "display/grid_geometry.h"
+
+namespace quorn::ui {
+
+class DrawingSurface : public QWidget, public Canvas {
+  Q_OBJECT
+
+ public:
+  DrawingSurface();
+
+  void clear() override;
+  void line(double x1, double y1, double x2, double y2, const Pen& pen) override;
+  void circle(double cx, double cy, double radius, const Pen& pen) override;
+
+  /// The grid decides the part of the form that is shown.
+  void setGrid(const GridGeometry& grid);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  /// The transform from form units to the widget's pixels.
+  QTransform formToWidget() const;
+
+  DisplayList drawing_;
+  QRectF formArea_{0, 0, 15360, 11520};
+};
+
+}  // namespace quorn::ui

@@ -1,14 +1,12 @@
 #pragma once
-// The grid as the editing operations see it: where it lies on the drawing surface and how
-// large it is, in form units.
+// The grid as the editing operations see it: how large it is, in form units, from its
+// top-left corner (kGridLeft, kGridTop).
 
 #include <cstdint>
 
-namespace quorn {
+#include "model/working_symbol.h"
 
-/// The grid's top-left corner on the drawing surface.
-inline constexpr std::int32_t kGridLeftX = 1100;
-inline constexpr std::int32_t kGridTopY = 500;
+namespace quorn {
 
 struct GridFrame {
   std::int32_t spacing = 0;  // one grid division
@@ -16,7 +14,7 @@ struct GridFrame {
   std::int32_t height = 0;
 
   /// The grid's bottom edge: the lowest y of the positive area.
-  std::int32_t bottomY() const { return kGridTopY + height; }
+  std::int32_t bottomY() const { return kGridTop + height; }
 };
 
 }  // namespace quorn

@@ -214,7 +214,7 @@ void deleteSpindlePoint(EditorState& state) {
 
 bool moveStartPoint(FormPosition to, WorkingSymbol& working, const GridFrame& grid,
                     Messages& messages) {
-  if (to.x < kGridLeftX || to.y > grid.bottomY()) {
+  if (to.x < kGridLeft || to.y > grid.bottomY()) {
     messages.tell(std::string(kSymbolDoesNotFit));
     return false;
   }

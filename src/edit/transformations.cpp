@@ -35,7 +35,7 @@ void flipTopToBottom(const std::vector<WorkingAction*>& points, const WorkingSym
 void flipLeftToRight(const std::vector<WorkingAction*>& points) {
   std::int32_t largestX = points.front()->x;
   for (const WorkingAction* point : points) largestX = std::max(largestX, point->x);
-  for (WorkingAction* point : points) point->x = kGridLeftX + (largestX - point->x);
+  for (WorkingAction* point : points) point->x = kGridLeft + (largestX - point->x);
 }
 
 }  // namespace
@@ -47,7 +47,7 @@ bool moveSymbolTo(FormPosition newStart, const EditorState& state, WorkingSymbol
   const std::int32_t dy = newStart.y - working.slots[kStartSlot].y;
   const std::vector<WorkingAction*> points = symbolPoints(state, working);
   const bool fits = std::all_of(points.begin(), points.end(), [&](const WorkingAction* point) {
-    return point->x + dx >= kGridLeftX && point->y + dy <= grid.bottomY();
+    return point->x + dx >= kGridLeft && point->y + dy <= grid.bottomY();
   });
   if (!fits) {
     messages.tell(std::string(kSymbolDoesNotFit));

@@ -23,6 +23,8 @@ std::optional<FatalError> Editor::startSecondStage() {
     window_.groupChooser.selected = window_.groupChooser.rows.empty() ? -1 : 0;
     window_.caption = windowCaption(openFileName_);
     redrawGrid(canvas_, grid_, startup_.config);
+    auto context = browseContext();
+    refreshSymbolList(context);
     return std::nullopt;
   };
   steps.showTips = [this] {
@@ -31,7 +33,7 @@ std::optional<FatalError> Editor::startSecondStage() {
   };
   steps.openFile = [this](const std::string& fileName) {
     auto context = fileContext();
-    openNamedFile(context, fileName);
+    if (openNamedFile(context, fileName)) showFirstSymbolAfterOpen();
   };
   auto fatal = runSecondStage(startup_, environment_, messages_, steps);
   window_.pointer = Pointer::Normal;
@@ -55,7 +57,42 @@ void Editor::newFile() {
 
 void Editor::openFile() {
   auto context = fileContext();
-  quorn::openFile(context);
+  if (quorn::openFile(context)) showFirstSymbolAfterOpen();
+}
+
+void Editor::showFirstSymbolAfterOpen() {
+  browse_.view = ListView::CurrentSet;
+  browse_.shownSymbol = 0;
+  if (set_.count() == 0) return;
+  auto context = browseContext();
+  chooseSymbol(context, 0);
+}
+
+BrowseContext Editor::browseContext() {
+  return BrowseContext{startup_.config, set_,  startup_.library, browse_,  working_, state_,
+                       window_,         grid_, canvas_,          messages_};
+}
+
+void Editor::chooseGroup(int row) {
+  auto context = browseContext();
+  quorn::chooseGroup(context, row);
+}
+
+void Editor::chooseSymbolRow(int row) {
+  auto context = browseContext();
+  chooseSymbol(context, row);
+}
+
+void Editor::viewStandardLibrary() {
+  browse_.view = ListView::Standard;
+  auto context = browseContext();
+  refreshSymbolList(context, true);
+}
+
+void Editor::viewCurrentSet() {
+  browse_.view = ListView::CurrentSet;
+  auto context = browseContext();
+  refreshSymbolList(context);
 }
 
 void Editor::saveFile() {

@@ -18,6 +18,7 @@
 #include "model/editor_state.h"
 #include "model/symbol_collection.h"
 #include "model/working_symbol.h"
+#include "skey/browsing.h"
 
 namespace quorn {
 
@@ -35,6 +36,12 @@ class Editor {
   /// The tips dialog's "&Close" button.
   void closeTipsDialog() { window_.tipsDialogVisible = false; }
 
+  // Browsing: the group chooser, the symbol list and the two views of it.
+  void chooseGroup(int row);
+  void chooseSymbolRow(int row);
+  void viewStandardLibrary();
+  void viewCurrentSet();
+
   // The File menu and the window's close box.
   void newFile();
   void openFile();
@@ -51,9 +58,13 @@ class Editor {
   const EditorState& state() const { return state_; }
   const EditWindowState& window() const { return window_; }
   const GridGeometry& grid() const { return grid_; }
+  const BrowseState& browse() const { return browse_; }
 
  private:
   FileCommandContext fileContext();
+  BrowseContext browseContext();
+  /// After an Open that read symbols, the list shows the Current Set and its first symbol.
+  void showFirstSymbolAfterOpen();
   /// Where the grid lies, for turning form units into stored units.
   GridPlacement gridPlacement() const;
 
@@ -70,6 +81,7 @@ class Editor {
   EditorState state_;
   EditWindowState window_;
   GridGeometry grid_;
+  BrowseState browse_;
 };
 
 }  // namespace quorn

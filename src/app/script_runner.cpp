@@ -1,5 +1,6 @@
 #include "app/script_runner.h"
 
+#include <charconv>
 #include <deque>
 #include <functional>
 #include <map>
@@ -112,6 +113,12 @@ std::string drawCallText(const DrawCall& call) {
   return text.str();
 }
 
+bool wholeNumber(const std::string& text, int& value) {
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  return !text.empty() && error == std::errc() && stop == end;
+}
+
 std::optional<Answer> answerNamed(std::string_view name) {
   for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
     if (answerName(answer) == name) return answer;
@@ -158,6 +165,8 @@ class ScriptRunner {
       problem = started() ? (editor_.closeTipsDialog(), std::nullopt) : notStarted();
     } else if (verb == "close") {
       problem = started() ? decide(editor_.closeWindow()) : notStarted();
+    } else if (verb == "group" || verb == "row") {
+      problem = chooseRow(verb, rest);
     } else if (verb == "dump") {
       problem = dump(rest);
     } else {
@@ -216,10 +225,33 @@ class ScriptRunner {
         {"File > Save", [&] { return editor_.saveFile(), std::optional<std::string>(); }},
         {"File > Save As", [&] { return editor_.saveFileAs(), std::optional<std::string>(); }},
         {"File > Exit", [&] { return decide(editor_.exitEditor()); }},
+        {"View > Standard Library",
+         [&] { return editor_.viewStandardLibrary(), std::optional<std::string>(); }},
+        {"View > Symbol - from Current Set",
+         [&] { return editor_.viewCurrentSet(), std::optional<std::string>(); }},
     };
     const auto entry = entries.find(path);
     if (entry == entries.end()) return "unknown menu entry '" + path + "'";
     return entry->second();
+  }
+
+  /// `group N` or `row N`: row N (from 1) of the group chooser or the symbol list.
+  std::optional<std::string> chooseRow(const std::string& list,
+                                       const std::vector<std::string>& words) {
+    if (!started()) return notStarted();
+    const ListState& rows =
+        list == "group" ? editor_.window().groupChooser : editor_.window().symbolList;
+    int row = 0;
+    if (words.size() != 1 || !wholeNumber(words[0], row) || row < 1 ||
+        row > static_cast<int>(rows.rows.size())) {
+      return list + " takes a row number from 1 to " + std::to_string(rows.rows.size());
+    }
+    if (list == "group") {
+      editor_.chooseGroup(row - 1);
+    } else {
+      editor_.chooseSymbolRow(row - 1);
+    }
+    return std::nullopt;
   }
 
   std::optional<std::string> decide(ExitDecision decision) {

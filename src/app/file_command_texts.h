@@ -9,7 +9,6 @@ namespace quorn {
 inline constexpr std::string_view kWindowCaption = "User Defined Symbols Editor";
 inline constexpr std::string_view kCaptionSeparator = "    ";
 inline constexpr std::string_view kSelectNewSymbolPrompt = "Select New Symbol";
-inline constexpr std::string_view kSymbolsLoaded = " Symbols Loaded";
 
 std::string unsavedSetQuestion();
 std::string pendingSymbolSaveQuestion();

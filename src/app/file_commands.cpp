@@ -1,7 +1,6 @@
 #include "app/file_commands.h"
 
 #include "app/file_command_texts.h"
-#include "base/numbers.h"
 #include "files/open_symbol_file.h"
 #include "files/symbol_file_writer.h"
 
@@ -79,9 +78,6 @@ std::string windowCaption(const std::string& openFileName) {
   return caption;
 }
 
-std::string symbolsLoadedText(int count) {
-  return messageNumber(count) + std::string(kSymbolsLoaded);
-}
 
 void newFile(FileCommandContext& context) {
   offerToSaveBeforeReplacing(context);

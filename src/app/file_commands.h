@@ -10,6 +10,7 @@
 #include "config/configuration.h"
 #include "config/settings.h"
 #include "display/edit_window_state.h"
+#include "display/window_texts.h"
 #include "files/symbol_file.h"
 #include "model/editor_state.h"
 #include "model/symbol_collection.h"
@@ -49,7 +50,5 @@ bool openNamedFile(FileCommandContext& context, const std::string& fileName);
 
 /// "User Defined Symbols Editor" followed by the open file's name when there is one.
 std::string windowCaption(const std::string& openFileName);
-/// The count label: the count with its leading blank, then " Symbols Loaded".
-std::string symbolsLoadedText(int count);
 
 }  // namespace quorn

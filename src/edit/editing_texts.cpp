@@ -1,6 +1,5 @@
 #include "edit/editing_texts.h"
 
-#include "base/numbers.h"
 
 namespace quorn {
 
@@ -9,8 +8,5 @@ std::string deleteSymbolQuestion(std::string_view skey) {
          " from this set?";
 }
 
-std::string symbolsLoadedStatus(int count) {
-  return messageNumber(count) + std::string(kSymbolsLoadedStatus);
-}
 
 }  // namespace quorn

@@ -57,7 +57,6 @@ inline constexpr std::string_view kEraseQuestion =
 inline constexpr std::string_view kErasedEmptySetPrompt = "Select New Symbol.";
 inline constexpr std::string_view kErasedPrompt =
     "Select New Symbol or use Show to view and edit Current Symbols.";
-inline constexpr std::string_view kSymbolsLoadedStatus = " Symbols Loaded";
 
 // Deleting a symbol from the Current Set.
 inline constexpr std::string_view kDeleteSymbolTitle = "User Defined Symbols Editor";
@@ -92,7 +91,5 @@ inline constexpr std::string_view kOrthoCaption = "Ortho";
 
 /// "Are you sure you wish to permanently delete Symbol " + SKEY + " from this set?"
 std::string deleteSymbolQuestion(std::string_view skey);
-/// The count with its leading blank when not negative, then " Symbols Loaded".
-std::string symbolsLoadedStatus(int count);
 
 }  // namespace quorn

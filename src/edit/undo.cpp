@@ -3,6 +3,7 @@
 #include <string>
 
 #include "edit/drawn_slots.h"
+#include "display/window_texts.h"
 #include "edit/editing_texts.h"
 
 namespace quorn {
@@ -128,7 +129,7 @@ bool eraseSymbol(EditorState& state, WorkingSymbol& working, const CurrentSet& s
   window.flipChoiceVisible = false;
   window.menusEnabled = true;
   window.prompt = std::string(set.count() == 0 ? kErasedEmptySetPrompt : kErasedPrompt);
-  window.statusText = symbolsLoadedStatus(set.count());
+  window.statusText = symbolsLoadedText(set.count());
   return true;
 }
 
@@ -151,7 +152,7 @@ bool deleteSymbolFromSet(EditorState& state, CurrentSet& set, EditWindowState& w
   } else if (state.editedSymbol > number) {
     --state.editedSymbol;
   }
-  window.statusText = symbolsLoadedStatus(set.count());
+  window.statusText = symbolsLoadedText(set.count());
   return true;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "display/grid_geometry.h"
 #include "model/working_symbol.h"
 
 namespace quorn {
@@ -16,5 +17,10 @@ struct GridFrame {
   /// The grid's bottom edge: the lowest y of the positive area.
   std::int32_t bottomY() const { return kGridTop + height; }
 };
+
+/// The frame of the grid as laid out: the one place the editing operations take it from.
+inline GridFrame gridFrame(const GridGeometry& grid) {
+  return GridFrame{grid.spacing, grid.gridWidth, grid.gridHeight};
+}
 
 }  // namespace quorn

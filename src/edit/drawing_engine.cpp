@@ -62,7 +62,7 @@ std::string_view strokeStartedPrompt(PendingItem item) {
 }
 
 void refuseForLimit(DrawingContext& context) {
-  context.messages.tell(actionLimitText(kMaxEditingSteps));
+  context.messages.tell(stepLimitText(kMaxEditingSteps));
 }
 
 void placeStartPoint(DrawingContext& context) {

@@ -4,7 +4,7 @@
 
 namespace quorn {
 
-std::string actionLimitText(int limit) {
+std::string stepLimitText(int limit) {
   return "Unable to add this action to the current symbol as you have reached the limit of " +
          std::to_string(limit) + " actions.";
 }

@@ -81,7 +81,7 @@ inline constexpr std::string_view kNoSpindleKey = "NONE";
 
 /// "Unable to add this action to the current symbol as you have reached the limit of 200
 /// actions." with the limit given.
-std::string actionLimitText(int limit);
+std::string stepLimitText(int limit);
 
 /// Done finds the Current Set full: the symbol stays on the surface.
 std::string setFullText(int maxSymbols);

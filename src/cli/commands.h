@@ -12,6 +12,9 @@ using Words = std::vector<std::string>;
 
 int runConfig(const Words& words, std::ostream& out, std::ostream& err);
 int runLibrary(const Words& words, std::ostream& out, std::ostream& err);
+#ifdef QUORN_WITH_RENDER
+int runRender(const Words& words, std::ostream& out, std::ostream& err);
+#endif
 int runReplay(const Words& words, std::ostream& out, std::ostream& err);
 int runSpindles(const Words& words, std::ostream& out, std::ostream& err);
 int runConvert(const Words& words, std::ostream& out, std::ostream& err);

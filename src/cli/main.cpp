@@ -16,6 +16,10 @@ struct Command {
 constexpr Command kCommands[] = {
     {"config", quorn::cli::runConfig, "config [--workdir DIR] [--json]"},
     {"library", quorn::cli::runLibrary, "library [--workdir DIR] [--json]"},
+#ifdef QUORN_WITH_RENDER
+    {"render", quorn::cli::runRender,
+     "render FILE [--symbol N] --out OUT.{svg,png,pdf} [--workdir DIR]"},
+#endif
     {"replay", quorn::cli::runReplay, "replay SCRIPT [--workdir DIR]"},
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},
     {"convert", quorn::cli::runConvert, "convert IN OUT [--workdir DIR] [--force]"},

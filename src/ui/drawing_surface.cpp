@@ -55,7 +55,7 @@ void DrawingSurface::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(rect(), Qt::white);
   painter.setTransform(formToWidget());
-  PainterCanvas canvas(painter);
+  PainterCanvas canvas(painter, formArea_);
   drawing_.paintOn(canvas);
 }
 

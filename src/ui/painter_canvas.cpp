@@ -11,7 +11,7 @@ QColor PainterCanvas::colour(int index) {
 }
 
 void PainterCanvas::clear() {
-  painter_.fillRect(painter_.window(), Qt::white);
+  painter_.fillRect(background_, Qt::white);
 }
 
 void PainterCanvas::use(const Pen& pen) {

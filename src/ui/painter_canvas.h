@@ -10,10 +10,11 @@ namespace quorn::ui {
 
 class PainterCanvas : public Canvas {
  public:
-  /// Paints through `painter`, whose transform maps form units onto its device.
-  explicit PainterCanvas(QPainter& painter) : painter_(painter) {}
+  /// Paints through `painter`, whose transform maps form units onto its device; clearing
+  /// fills `background`, in form units, with white.
+  PainterCanvas(QPainter& painter, const QRectF& background)
+      : painter_(painter), background_(background) {}
 
-  /// Fills the painter's whole window with white.
   void clear() override;
   void line(double x1, double y1, double x2, double y2, const Pen& pen) override;
   void circle(double cx, double cy, double radius, const Pen& pen) override;
@@ -25,6 +26,7 @@ class PainterCanvas : public Canvas {
   void use(const Pen& pen);
 
   QPainter& painter_;
+  QRectF background_;
 };
 
 }  // namespace quorn::ui

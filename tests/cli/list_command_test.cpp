@@ -43,7 +43,7 @@ TEST(ListCommand, ListsTheSampleFilesOfEachFormat) {
                        "{\"newKeyRaw\":\"\",\"newKey\":\"\",\"oldKeyRaw\":\"VT\","
                        "\"oldKey\":\"VT**\",\"spindleKey\":\"01SP\",\"scaleFactor\":\"100\""));
   // The spindle point stands last but one; the end point closes the symbol.
-  EXPECT_TRUE(contains(json, "[6,1500,1500],[1,3000,1500]]"));
+  EXPECT_TRUE(contains(json, "[6,1500,1000],[1,3000,1000]]"));
   EXPECT_TRUE(contains(json, "\"messages\":[]"));
 
   const auto psy =

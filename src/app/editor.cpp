@@ -76,6 +76,7 @@ BrowseContext Editor::browseContext() {
 void Editor::chooseGroup(int row) {
   auto context = browseContext();
   quorn::chooseGroup(context, row);
+  groupChosenUnderDialog(dialogs_, browse_.currentGroup);
 }
 
 void Editor::chooseSymbolRow(int row) {

@@ -19,6 +19,7 @@
 #include "model/symbol_collection.h"
 #include "model/working_symbol.h"
 #include "skey/browsing.h"
+#include "skey/symbol_creation.h"
 
 namespace quorn {
 
@@ -42,6 +43,27 @@ class Editor {
   void viewStandardLibrary();
   void viewCurrentSet();
 
+  // Symbol › New and Symbol › Edit, the new-symbol dialog and the two pickers over it
+  // (src/app/editor_symbol_dialog.cpp). True when the event was taken: an event of a closed
+  // dialog or picker, or of a disabled control, does nothing.
+  bool newSymbol();
+  bool editSymbol();
+  bool typeInDialog(DialogField field, std::string text);
+  void leaveDialogField(DialogField field);
+  void tickCopySymbol(bool ticked);
+  void chooseCopyOption(CopyOption option);
+  bool chooseDialogList(AttributeList list, int position);
+  CreateOutcome pressCreate();
+  void pressCancel();
+  bool openExistingSymbolPicker();
+  /// Entry `entry` (from 1) of the group's SKEYs; the picker closes.
+  bool pickExistingSymbol(int entry);
+  bool openSpindlePicker();
+  /// A spindle by its SKEY; the picker stays open.
+  bool pickSpindle(std::string_view skey);
+  /// The picker's Cancel or close button.
+  void closePicker();
+
   // The File menu and the window's close box.
   void newFile();
   void openFile();
@@ -59,10 +81,14 @@ class Editor {
   const EditWindowState& window() const { return window_; }
   const GridGeometry& grid() const { return grid_; }
   const BrowseState& browse() const { return browse_; }
+  const SymbolDialogs& symbolDialogs() const { return dialogs_; }
 
  private:
   FileCommandContext fileContext();
   BrowseContext browseContext();
+  CreationContext creationContext();
+  /// The dialog is open and no picker covers it.
+  bool dialogTakesInput() const;
   /// After an Open that read symbols, the list shows the Current Set and its first symbol.
   void showFirstSymbolAfterOpen();
   /// Where the grid lies, for turning form units into stored units.
@@ -82,6 +108,7 @@ class Editor {
   EditWindowState window_;
   GridGeometry grid_;
   BrowseState browse_;
+  SymbolDialogs dialogs_;
 };
 
 }  // namespace quorn

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/editor.h"
+#include "app/script_dialog_verbs.h"
 #include "app/script_words.h"
 #include "config/palette.h"
 #include "display/display_list.h"
@@ -153,7 +154,9 @@ class ScriptRunner {
     const std::string& verb = words->front();
     const std::vector<std::string> rest(words->begin() + 1, words->end());
     std::optional<std::string> problem;
-    if (verb == "start") {
+    if (auto refusal = refusedUnderDialog(editor_, verb)) {
+      problem = std::move(refusal);
+    } else if (verb == "start") {
       problem = start(rest);
     } else if (verb == "answer") {
       problem = queueAnswer(rest);
@@ -167,6 +170,8 @@ class ScriptRunner {
       problem = started() ? decide(editor_.closeWindow()) : notStarted();
     } else if (verb == "group" || verb == "row") {
       problem = chooseRow(verb, rest);
+    } else if (isDialogVerb(verb)) {
+      problem = started() ? runDialogVerb(editor_, verb, rest) : notStarted();
     } else if (verb == "dump") {
       problem = dump(rest);
     } else {
@@ -227,11 +232,14 @@ class ScriptRunner {
         {"File > Exit", [&] { return decide(editor_.exitEditor()); }},
         {"View > Standard Library",
          [&] { return editor_.viewStandardLibrary(), std::optional<std::string>(); }},
+        {"Symbol > New", [&] { return editor_.newSymbol(), std::optional<std::string>(); }},
+        {"Symbol > Edit", [&] { return editor_.editSymbol(), std::optional<std::string>(); }},
         {"View > Symbol - from Current Set",
          [&] { return editor_.viewCurrentSet(), std::optional<std::string>(); }},
     };
     const auto entry = entries.find(path);
     if (entry == entries.end()) return "unknown menu entry '" + path + "'";
+    if (auto refusal = disabledMenuEntry(editor_, path)) return refusal;
     return entry->second();
   }
 
@@ -263,7 +271,8 @@ class ScriptRunner {
   }
 
   std::optional<std::string> dump(const std::vector<std::string>& words) {
-    if (words.size() != 1) return "dump takes one of: set, window, canvas";
+    if (words.size() != 1) return "dump takes one of: set, window, canvas, dialog";
+    if (words[0] == "dialog") return writeDialogDump(editor_, out_);
     if (words[0] == "canvas") {
       for (const DrawCall& call : drawing_.calls()) out_ << drawCallText(call) << '\n';
       return std::nullopt;
@@ -292,10 +301,11 @@ class ScriptRunner {
       }
       return std::nullopt;
     }
-    return "dump takes one of: set, window, canvas";
+    return "dump takes one of: set, window, canvas, dialog";
   }
 
   void reportWindowChanges() {
+    dialogReport_.report(editor_, out_);
     const EditWindowState& window = editor_.window();
     if (window.tipsDialogVisible && !shown_.tipsDialogVisible) {
       out_ << "tips-dialog " << quotedScriptText(window.tipText) << '\n';
@@ -318,6 +328,7 @@ class ScriptRunner {
   DisplayList drawing_;
   Editor editor_;
   EditWindowState shown_;
+  DialogReport dialogReport_;
   bool started_ = false;
   bool ended_ = false;
 };

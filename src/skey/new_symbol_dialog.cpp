@@ -16,6 +16,8 @@ namespace {
 // A blank symbol takes a Spindle SKEY only in these groups; the range is fixed.
 constexpr int kFirstSpindleGroup = 2;
 constexpr int kLastSpindleGroup = 12;
+// A symbol of this group keeps its Spindle SKEY as it stands while it is edited.
+constexpr int kFixedSpindleGroup = 8;
 
 ChoiceList freshList(AttributeList list, CaptionStyle style) {
   return ChoiceList{listCaptions(list, style), 0, true, true};
@@ -91,6 +93,21 @@ void NewSymbolDialog::resetFromGroupList(const DialogContext& context, int entry
   fillFromGroupEntry(context, entry, AttributeSource::Library);
   state_.copyTicked = true;
   state_.copyOption = CopyOption::Library;
+}
+
+void NewSymbolDialog::resetForEditing(const SymbolText& symbol, int number, int group) {
+  state_ = freshState(CaptionStyle::Editing);
+  state_.title = std::string(kEditSymbolTitle);
+  state_.createCaption = std::string(kEditSymbolCaption);
+  state_.editing = true;
+  state_.editedSymbol = number;
+  state_.oldKey.text = symbol.oldKey;
+  state_.newKey.text = symbol.newKey;
+  copyAttributesFrom(symbol);
+  if (group == kFixedSpindleGroup) {
+    state_.spindleKey.enabled = false;
+    state_.spindleKey.captionEnabled = false;
+  }
 }
 
 void NewSymbolDialog::enableSpindleForGroup(int group) {

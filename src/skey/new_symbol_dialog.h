@@ -95,6 +95,12 @@ class NewSymbolDialog {
   /// entry with attributes from the Symbol Library, and "Copy Symbol from" "Library" ticked.
   void resetFromGroupList(const DialogContext& context, int entry);
 
+  /// Set up to edit the keys and attributes of Current Set symbol `number` (`symbol`): title
+  /// and Create button "Edit Symbol", every list's first item "Use the Old SKEY Setting", the
+  /// fields and lists filled from the symbol. In group 8 the Spindle SKEY field and its caption
+  /// are disabled.
+  void resetForEditing(const SymbolText& symbol, int number, int group);
+
   /// Enables the Spindle SKEY field, caption and picker in groups 2 to 12 and disables them in
   /// any other group, as for a blank symbol.
   void enableSpindleForGroup(int group);

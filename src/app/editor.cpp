@@ -66,6 +66,7 @@ void Editor::showFirstSymbolAfterOpen() {
   if (set_.count() == 0) return;
   auto context = browseContext();
   chooseSymbol(context, 0);
+  if (!state_.symbolInProgress) state_.newStrokePending = true;
 }
 
 BrowseContext Editor::browseContext() {
@@ -82,6 +83,8 @@ void Editor::chooseGroup(int row) {
 void Editor::chooseSymbolRow(int row) {
   auto context = browseContext();
   chooseSymbol(context, row);
+  // Drawing on a symbol just shown starts a new stroke; a symbol in progress is not replaced.
+  if (!state_.symbolInProgress) state_.newStrokePending = true;
 }
 
 void Editor::viewStandardLibrary() {

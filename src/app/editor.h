@@ -14,6 +14,8 @@
 #include "display/canvas.h"
 #include "display/edit_window_state.h"
 #include "display/grid_geometry.h"
+#include "edit/drawing_engine.h"
+#include "edit/scale_dialog.h"
 #include "files/symbol_file.h"
 #include "model/editor_state.h"
 #include "model/symbol_collection.h"
@@ -42,6 +44,26 @@ class Editor {
   void chooseSymbolRow(int row);
   void viewStandardLibrary();
   void viewCurrentSet();
+
+  // Drawing on the grid: the drawing surface (positions in form units), the action buttons,
+  // the Delete and Move menus, the flip choice and the Scale dialog
+  // (src/app/editor_drawing.cpp).
+  void pressMouse(MouseButton button, float x, float y);
+  void moveMouse(float x, float y);
+  void pressButton(ActionButton button);
+  void openDeleteMenu();
+  void chooseDeleteEntry(DeleteEntry entry);
+  /// Delete › Symbol.
+  void deleteSymbol();
+  void openMoveMenu();
+  void chooseMoveEntry(MoveEntry entry);
+  void chooseFlip(FlipAxis axis);
+  void typeGridDivision(std::string text);
+  void typeScaleLength(std::string text);
+  /// "&Rescale Symbol": the grid laid out again from the entries, and the symbol redrawn.
+  void rescaleSymbol();
+  /// The Scale dialog's close button: the grid stays as the last rescale left it.
+  void closeScaleDialog();
 
   // Symbol › New and Symbol › Edit, the new-symbol dialog and the two pickers over it
   // (src/app/editor_symbol_dialog.cpp). True when the event was taken: an event of a closed
@@ -81,11 +103,13 @@ class Editor {
   const EditWindowState& window() const { return window_; }
   const GridGeometry& grid() const { return grid_; }
   const BrowseState& browse() const { return browse_; }
+  const ScaleDialogState& scaleDialog() const { return scaleDialog_; }
   const SymbolDialogs& symbolDialogs() const { return dialogs_; }
 
  private:
   FileCommandContext fileContext();
   BrowseContext browseContext();
+  DrawingContext drawingContext();
   CreationContext creationContext();
   /// The dialog is open and no picker covers it.
   bool dialogTakesInput() const;
@@ -108,6 +132,8 @@ class Editor {
   EditWindowState window_;
   GridGeometry grid_;
   BrowseState browse_;
+  DrawingSession session_;
+  ScaleDialogState scaleDialog_;
   SymbolDialogs dialogs_;
 };
 

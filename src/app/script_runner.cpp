@@ -12,6 +12,7 @@
 
 #include "app/editor.h"
 #include "app/script_dialog_verbs.h"
+#include "app/script_drawing_verbs.h"
 #include "app/script_words.h"
 #include "config/palette.h"
 #include "display/display_list.h"
@@ -170,6 +171,8 @@ class ScriptRunner {
       problem = started() ? decide(editor_.closeWindow()) : notStarted();
     } else if (verb == "group" || verb == "row") {
       problem = chooseRow(verb, rest);
+    } else if (isDrawingVerb(verb)) {
+      problem = started() ? runDrawingVerb(editor_, verb, rest, out_) : notStarted();
     } else if (isDialogVerb(verb)) {
       problem = started() ? runDialogVerb(editor_, verb, rest) : notStarted();
     } else if (verb == "dump") {
@@ -238,8 +241,11 @@ class ScriptRunner {
          [&] { return editor_.viewCurrentSet(), std::optional<std::string>(); }},
     };
     const auto entry = entries.find(path);
-    if (entry == entries.end()) return "unknown menu entry '" + path + "'";
+    if (entry == entries.end() && !isDrawingMenuEntry(path)) {
+      return "unknown menu entry '" + path + "'";
+    }
     if (auto refusal = disabledMenuEntry(editor_, path)) return refusal;
+    if (entry == entries.end()) return runDrawingMenuEntry(editor_, path);
     return entry->second();
   }
 
@@ -271,8 +277,9 @@ class ScriptRunner {
   }
 
   std::optional<std::string> dump(const std::vector<std::string>& words) {
-    if (words.size() != 1) return "dump takes one of: set, window, canvas, dialog";
+    if (words.size() != 1) return "dump takes one of: set, window, canvas, dialog, symbol, state";
     if (words[0] == "dialog") return writeDialogDump(editor_, out_);
+    if (isDrawingDump(words[0])) return writeDrawingDump(editor_, words[0], out_), std::nullopt;
     if (words[0] == "canvas") {
       for (const DrawCall& call : drawing_.calls()) out_ << drawCallText(call) << '\n';
       return std::nullopt;
@@ -301,7 +308,7 @@ class ScriptRunner {
       }
       return std::nullopt;
     }
-    return "dump takes one of: set, window, canvas, dialog";
+    return "dump takes one of: set, window, canvas, dialog, symbol, state";
   }
 
   void reportWindowChanges() {

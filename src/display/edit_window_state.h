@@ -32,6 +32,8 @@ struct EditWindowState {
   bool menusEnabled = true;
   bool moveMenuVisible = false;
   bool flipChoiceVisible = false;
+  /// The Scale dialog over the edit window; its entries are the editor's.
+  bool scaleDialogVisible = false;
   bool isometric = false;
   /// The testing aids' values view: what the last Open read, shown when testing is enabled.
   std::string valuesView;

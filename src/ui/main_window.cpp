@@ -56,7 +56,9 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
       countLabel_(new QLabel),
       snapLabel_(new QLabel),
       charLabel_(new QLabel),
-      status_(new QLabel) {
+      status_(new QLabel),
+      dialog_(new NewSymbolDialogView(
+          editor, [this] { refresh(); }, this)) {
   auto* central = new QWidget;
   auto* layout = new QVBoxLayout(central);
   auto* lists = new QVBoxLayout;
@@ -73,15 +75,21 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
   layout->addLayout(labels);
   setCentralWidget(central);
   buildMenus();
+  connect(groupChooser_, &QComboBox::activated, this,
+          [this](int row) { run([this, row] { editor_.chooseGroup(row); }); });
+  connect(symbolList_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+    const int row = symbolList_->row(item);
+    run([this, row] { editor_.chooseSymbolRow(row); });
+  });
   refresh();
 }
 
 void MainWindow::buildMenus() {
   QMenu* file = menuBar()->addMenu(tr("&File"));
-  file->addAction(tr("&New"), QKeySequence::New, this,
-                  [this] { run([this] { editor_.newFile(); }); });
-  file->addAction(tr("&Open..."), QKeySequence::Open, this,
-                  [this] { run([this] { editor_.openFile(); }); });
+  heldWhileDrawing_.push_back(file->addAction(tr("&New"), QKeySequence::New, this,
+                                              [this] { run([this] { editor_.newFile(); }); }));
+  heldWhileDrawing_.push_back(file->addAction(tr("&Open..."), QKeySequence::Open, this,
+                                              [this] { run([this] { editor_.openFile(); }); }));
   file->addAction(tr("&Save"), QKeySequence::Save, this,
                   [this] { run([this] { editor_.saveFile(); }); });
   file->addAction(tr("Save &As..."), QKeySequence(tr("Ctrl+Shift+S")), this,
@@ -89,6 +97,18 @@ void MainWindow::buildMenus() {
   file->addSeparator();
   file->addAction(tr("E&xit"), QKeySequence::Quit, this,
                   [this] { exitIfDecided(editor_.exitEditor()); });
+
+  QMenu* symbol = menuBar()->addMenu(tr("&Symbol"));
+  symbol->addAction(QStringLiteral("&New  - Create a New Symbol in the Current Set"), this,
+                    [this] { run([this] { editor_.newSymbol(); }); });
+  heldWhileDrawing_.push_back(
+      symbol->addAction(QStringLiteral("&Edit  - Edit the Symbol Displayed on the Screen"), this,
+                        [this] { run([this] { editor_.editSymbol(); }); }));
+  symbol->addSeparator();
+  symbol->addAction(QStringLiteral("&Standard Library"), this,
+                    [this] { run([this] { editor_.viewStandardLibrary(); }); });
+  symbol->addAction(QStringLiteral("S&ymbol - from Current Set"), this,
+                    [this] { run([this] { editor_.viewCurrentSet(); }); });
 }
 
 void MainWindow::refresh() {
@@ -102,7 +122,8 @@ void MainWindow::refresh() {
   status_->setText(text(window.statusText));
   mirrorList(groupChooser_, window.groupChooser);
   mirrorList(symbolList_, window.symbolList);
-  menuBar()->setEnabled(window.menusEnabled);
+  for (QAction* action : heldWhileDrawing_) action->setEnabled(window.menusEnabled);
+  dialog_->mirror();
   switch (window.pointer) {
     case Pointer::Busy:
       QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -5,9 +5,11 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
+#include <vector>
 
 #include "app/editor.h"
 #include "ui/drawing_surface.h"
+#include "ui/new_symbol_dialog_view.h"
 
 namespace quorn::ui {
 
@@ -38,6 +40,8 @@ class MainWindow : public QMainWindow {
 
   Editor& editor_;
   DrawingSurface* surface_;
+  /// The entries that wait while a symbol is in progress.
+  std::vector<QAction*> heldWhileDrawing_;
   QComboBox* groupChooser_;
   QListWidget* symbolList_;
   QLabel* prompt_;
@@ -45,6 +49,7 @@ class MainWindow : public QMainWindow {
   QLabel* snapLabel_;
   QLabel* charLabel_;
   QLabel* status_;
+  NewSymbolDialogView* dialog_;
 };
 
 }  // namespace quorn::ui

@@ -1,0 +1,205 @@
+#include "ui/new_symbol_dialog_view.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "skey/dialog_texts.h"
+
+namespace quorn::ui {
+
+namespace {
+
+QString text(std::string_view value) {
+  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
+
+constexpr std::array<AttributeList, 3> kLists = {
+    AttributeList::FlowArrow, AttributeList::Dimensions, AttributeList::Orientation};
+
+}  // namespace
+
+NewSymbolDialogView::NewSymbolDialogView(Editor& editor, std::function<void()> changed,
+                                         QWidget* parent)
+    : QDialog(parent),
+      editor_(editor),
+      changed_(std::move(changed)),
+      oldKeyPicker_(new QToolButton),
+      spindlePicker_(new QToolButton),
+      mirror_(new QLabel),
+      copy_(new QCheckBox(text(kCopySymbolFromCaption))),
+      create_(new QPushButton) {
+  setModal(true);
+  auto* layout = new QVBoxLayout(this);
+  auto* grid = new QGridLayout;
+  oldKeyPicker_->setText(QStringLiteral("..."));
+  spindlePicker_->setText(QStringLiteral("..."));
+  addField(grid, 0, DialogField::OldKey, kOldKeyCaption, oldKeyPicker_);
+  addField(grid, 1, DialogField::NewKey, kNewKeyCaption);
+  addField(grid, 2, DialogField::SpindleKey, kSpindleKeyCaption, spindlePicker_);
+  addField(grid, 3, DialogField::ScaleFactor, kScaleFactorCaption);
+  grid->addWidget(new QLabel(text(kMirrorCaption)), 4, 0);
+  grid->addWidget(mirror_, 4, 1, 1, 2);
+  const std::array<std::string_view, 3> captions = {kArrowCaption, kDimensionCaption,
+                                                    kOrientationCaption};
+  for (std::size_t i = 0; i < kLists.size(); ++i) {
+    lists_[i] = addList(grid, 5 + static_cast<int>(i), captions[i], kLists[i], &listCaptions_[i]);
+  }
+  layout->addLayout(grid);
+
+  auto* copyRow = new QHBoxLayout;
+  copyRow->addWidget(copy_);
+  for (std::size_t i = 0; i < options_.size(); ++i) {
+    options_[i] = new QRadioButton(text(kCopyOptionCaptions[i]));
+    copyRow->addWidget(options_[i]);
+    connect(options_[i], &QRadioButton::clicked, this, [this, i] {
+      if (mirroring_) return;
+      editor_.chooseCopyOption(static_cast<CopyOption>(i));
+      afterEvent();
+    });
+  }
+  layout->addLayout(copyRow);
+  connect(copy_, &QCheckBox::toggled, this, [this](bool ticked) {
+    if (mirroring_) return;
+    editor_.tickCopySymbol(ticked);
+    afterEvent();
+  });
+
+  auto* buttons = new QHBoxLayout;
+  auto* cancel = new QPushButton(text(kCancelCaption));
+  buttons->addStretch();
+  buttons->addWidget(create_);
+  buttons->addWidget(cancel);
+  layout->addLayout(buttons);
+  create_->setDefault(true);
+  connect(create_, &QPushButton::clicked, this, [this] {
+    editor_.pressCreate();
+    afterEvent();
+  });
+  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
+  connect(oldKeyPicker_, &QToolButton::clicked, this, [this] {
+    editor_.openExistingSymbolPicker();
+    runPicker();
+  });
+  connect(spindlePicker_, &QToolButton::clicked, this, [this] {
+    editor_.openSpindlePicker();
+    runPicker();
+  });
+}
+
+void NewSymbolDialogView::addField(QGridLayout* layout, int row, DialogField field,
+                                   std::string_view caption, QToolButton* picker) {
+  auto* label = new QLabel(text(caption));
+  auto* edit = new QLineEdit;
+  layout->addWidget(label, row, 0);
+  layout->addWidget(edit, row, 1);
+  if (picker) layout->addWidget(picker, row, 2);
+  fields_.push_back({field, label, edit});
+  connect(edit, &QLineEdit::textEdited, this, [this, field](const QString& typed) {
+    editor_.typeInDialog(field, typed.toStdString());
+  });
+  connect(edit, &QLineEdit::editingFinished, this, [this, field] {
+    if (mirroring_) return;
+    editor_.leaveDialogField(field);
+    afterEvent();
+  });
+}
+
+QComboBox* NewSymbolDialogView::addList(QGridLayout* layout, int row, std::string_view caption,
+                                        AttributeList list, QLabel** captionLabel) {
+  *captionLabel = new QLabel(text(caption));
+  auto* box = new QComboBox;
+  layout->addWidget(*captionLabel, row, 0);
+  layout->addWidget(box, row, 1, 1, 2);
+  connect(box, &QComboBox::activated, this, [this, list](int position) {
+    editor_.chooseDialogList(list, position);
+    afterEvent();
+  });
+  return box;
+}
+
+void NewSymbolDialogView::afterEvent() {
+  mirror();
+  changed_();
+}
+
+void NewSymbolDialogView::runPicker() {
+  const auto& picker = editor_.symbolDialogs().picker;
+  if (!picker) {
+    afterEvent();
+    return;
+  }
+  QStringList rows;
+  for (const std::string& row : picker->rows) rows << QString::fromStdString(row);
+  bool chosen = false;
+  const QString choice =
+      QInputDialog::getItem(this, QString::fromStdString(picker->title),
+                            QString::fromStdString(picker->caption), rows, 0, false, &chosen);
+  if (!chosen) {
+    editor_.closePicker();
+  } else if (picker->kind == PickerKind::ExistingSymbol) {
+    editor_.pickExistingSymbol(static_cast<int>(rows.indexOf(choice)) + 1);
+  } else {
+    editor_.pickSpindle(choice.toStdString());
+    editor_.closePicker();
+  }
+  afterEvent();
+}
+
+void NewSymbolDialogView::reject() {
+  editor_.pressCancel();
+  afterEvent();
+}
+
+void NewSymbolDialogView::mirror() {
+  const SymbolDialogs& dialogs = editor_.symbolDialogs();
+  if (!dialogs.dialogOpen) {
+    if (isVisible()) QDialog::hide();
+    return;
+  }
+  mirroring_ = true;
+  const NewSymbolDialogState& state = dialogs.dialog.state();
+  setWindowTitle(QString::fromStdString(state.title));
+  create_->setText(QString::fromStdString(state.createCaption));
+  for (const FieldWidgets& widgets : fields_) {
+    const TextField& field = widgets.field == DialogField::OldKey       ? state.oldKey
+                             : widgets.field == DialogField::NewKey     ? state.newKey
+                             : widgets.field == DialogField::SpindleKey ? state.spindleKey
+                                                                        : state.scaleFactor;
+    const QSignalBlocker blocker(widgets.edit);
+    if (widgets.edit->text().toStdString() != field.text) {
+      widgets.edit->setText(QString::fromStdString(field.text));
+    }
+    widgets.edit->setEnabled(field.enabled);
+    widgets.caption->setEnabled(field.captionEnabled);
+    if (widgets.field == state.focus && isVisible()) widgets.edit->setFocus();
+  }
+  oldKeyPicker_->setEnabled(state.oldKey.pickerEnabled);
+  spindlePicker_->setEnabled(state.spindleKey.pickerEnabled);
+  mirror_->setText(QString::fromStdString(state.mirrorType));
+  const std::array<const ChoiceList*, 3> lists = {&state.arrow, &state.dimension,
+                                                  &state.orientation};
+  for (std::size_t i = 0; i < lists.size(); ++i) {
+    const QSignalBlocker blocker(lists_[i]);
+    lists_[i]->clear();
+    for (const std::string& item : lists[i]->items)
+      lists_[i]->addItem(QString::fromStdString(item));
+    lists_[i]->setCurrentIndex(lists[i]->position);
+    lists_[i]->setEnabled(lists[i]->enabled);
+    listCaptions_[i]->setEnabled(lists[i]->captionEnabled);
+  }
+  {
+    const QSignalBlocker blocker(copy_);
+    copy_->setChecked(state.copyTicked);
+  }
+  for (std::size_t i = 0; i < options_.size(); ++i) {
+    const QSignalBlocker blocker(options_[i]);
+    options_[i]->setChecked(static_cast<std::size_t>(state.copyOption) == i);
+  }
+  mirroring_ = false;
+  if (!isVisible()) open();
+}
+
+}  // namespace quorn::ui

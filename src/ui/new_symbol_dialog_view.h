@@ -1,0 +1,62 @@
+#pragma once
+// The Add New Symbol / Edit Symbol dialog: it shows the editor's dialog state and hands every
+// change to the editor.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+#include <array>
+#include <functional>
+
+#include "app/editor.h"
+
+namespace quorn::ui {
+
+class NewSymbolDialogView : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `changed` is called after every event, so the edit window can show what changed too.
+  NewSymbolDialogView(Editor& editor, std::function<void()> changed, QWidget* parent);
+
+  /// Mirrors the editor's dialog state; shows or hides the dialog as the state says.
+  void mirror();
+
+ protected:
+  void reject() override;
+
+ private:
+  struct FieldWidgets {
+    DialogField field;
+    QLabel* caption;
+    QLineEdit* edit;
+  };
+
+  void addField(QGridLayout* layout, int row, DialogField field, std::string_view caption,
+                QToolButton* picker = nullptr);
+  QComboBox* addList(QGridLayout* layout, int row, std::string_view caption, AttributeList list,
+                     QLabel** captionLabel);
+  void afterEvent();
+  void runPicker();
+
+  Editor& editor_;
+  std::function<void()> changed_;
+  std::vector<FieldWidgets> fields_;
+  QToolButton* oldKeyPicker_;
+  QToolButton* spindlePicker_;
+  QLabel* mirror_;
+  std::array<QComboBox*, 3> lists_{};
+  std::array<QLabel*, 3> listCaptions_{};
+  QCheckBox* copy_;
+  std::array<QRadioButton*, 3> options_{};
+  QPushButton* create_;
+  bool mirroring_ = false;
+};
+
+}  // namespace quorn::ui

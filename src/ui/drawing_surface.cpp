@@ -1,5 +1,6 @@
 #include "ui/drawing_surface.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "ui/painter_canvas.h"
@@ -48,6 +49,21 @@ QTransform DrawingSurface::formToWidget() const {
                       (height() - formArea_.height() * scale) / 2);
   transform.scale(scale, scale);
   return transform;
+}
+
+void DrawingSurface::mousePressEvent(QMouseEvent* event) {
+  const QPointF form = formToWidget().inverted().map(event->position());
+  if (onPress)
+    onPress(event->button() == Qt::LeftButton, static_cast<float>(form.x()),
+            static_cast<float>(form.y()));
+}
+
+void DrawingSurface::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF form = formToWidget().inverted().map(event->position());
+  const bool insideGrid = form.x() >= kGridLeft && form.x() <= formArea_.width() - kRightBand &&
+                          form.y() >= kGridTop && form.y() <= formArea_.height() - kFootBand;
+  setCursor(insideGrid ? Qt::CrossCursor : Qt::ArrowCursor);
+  if (onMove) onMove(static_cast<float>(form.x()), static_cast<float>(form.y()));
 }
 
 void DrawingSurface::paintEvent(QPaintEvent*) {

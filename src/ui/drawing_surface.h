@@ -24,8 +24,14 @@ class DrawingSurface : public QWidget, public Canvas {
   /// The grid decides the part of the form that is shown.
   void setGrid(const GridGeometry& grid);
 
+  /// Mouse presses and moves, in form units; `left` is false for any other button.
+  std::function<void(bool left, float x, float y)> onPress;
+  std::function<void(float x, float y)> onMove;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   /// The transform from form units to the widget's pixels.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QMenuBar>
@@ -10,6 +11,8 @@
 #include <QVBoxLayout>
 
 #include "app/startup_texts.h"
+#include "edit/action_buttons.h"
+#include "edit/editing_texts.h"
 
 namespace quorn::ui {
 
@@ -58,7 +61,17 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
       charLabel_(new QLabel),
       status_(new QLabel),
       dialog_(new NewSymbolDialogView(
-          editor, [this] { refresh(); }, this)) {
+          editor, [this] { refresh(); }, this)),
+      scaleDialog_(new ScaleDialogView(
+          editor, [this] { refresh(); }, this)),
+      hint_(new QLabel) {
+  surface_->onPress = [this](bool left, float x, float y) {
+    run([this, left, x, y] {
+      editor_.pressMouse(left ? MouseButton::Left : MouseButton::Right, x, y);
+    });
+    offerFlipIfAsked();
+  };
+  surface_->onMove = [this](float x, float y) { run([this, x, y] { editor_.moveMouse(x, y); }); };
   auto* central = new QWidget;
   auto* layout = new QVBoxLayout(central);
   auto* lists = new QVBoxLayout;
@@ -69,6 +82,8 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
   body->addLayout(lists, 1);
   body->addWidget(surface_, 3);
   layout->addLayout(body, 1);
+  layout->addLayout(buildActionButtons());
+  layout->addWidget(hint_);
   layout->addWidget(prompt_);
   auto* labels = new QHBoxLayout;
   for (QLabel* label : {countLabel_, snapLabel_, charLabel_, status_}) labels->addWidget(label);
@@ -109,6 +124,60 @@ void MainWindow::buildMenus() {
                     [this] { run([this] { editor_.viewStandardLibrary(); }); });
   symbol->addAction(QStringLiteral("S&ymbol - from Current Set"), this,
                     [this] { run([this] { editor_.viewCurrentSet(); }); });
+
+  QMenu* erase = menuBar()->addMenu(tr("&Delete"));
+  connect(erase, &QMenu::aboutToShow, this, [this] { run([this] { editor_.openDeleteMenu(); }); });
+  const std::pair<const char*, DeleteEntry> deletes[] = {
+      {"&Line", DeleteEntry::Line},
+      {"&Insulation", DeleteEntry::Insulation},
+      {"&Tracing", DeleteEntry::Tracing},
+      {"Tapping &point", DeleteEntry::TappingPoint},
+      {"&Spindle point", DeleteEntry::SpindlePoint}};
+  for (const auto& [caption, entry] : deletes) {
+    const DeleteEntry which = entry;
+    erase->addAction(tr(caption), this,
+                     [this, which] { run([this, which] { editor_.chooseDeleteEntry(which); }); });
+  }
+  erase->addAction(tr("S&ymbol"), this, [this] { run([this] { editor_.deleteSymbol(); }); });
+
+  QMenu* move = menuBar()->addMenu(tr("&Move"));
+  connect(move, &QMenu::aboutToShow, this, [this] { run([this] { editor_.openMoveMenu(); }); });
+  const std::pair<const char*, MoveEntry> moves[] = {{"&Start point", MoveEntry::StartPoint},
+                                                     {"&End point", MoveEntry::EndPoint},
+                                                     {"S&pindle point", MoveEntry::SpindlePoint},
+                                                     {"S&ymbol", MoveEntry::Symbol}};
+  for (const auto& [caption, entry] : moves) {
+    const MoveEntry which = entry;
+    move->addAction(tr(caption), this,
+                    [this, which] { run([this, which] { editor_.chooseMoveEntry(which); }); });
+  }
+}
+
+QLayout* MainWindow::buildActionButtons() {
+  auto* row = new QHBoxLayout;
+  for (const ActionButtonText& entry : kActionButtonTexts) {
+    auto* button = new QPushButton(text(std::string(entry.caption)));
+    button->setToolTip(text(std::string(entry.hint)));
+    button->setFocusPolicy(Qt::NoFocus);
+    const ActionButton which = entry.button;
+    connect(button, &QPushButton::clicked, this, [this, which] {
+      run([this, which] { editor_.pressButton(which); });
+      offerFlipIfAsked();
+    });
+    if (which == ActionButton::IsoOrtho) isoButton_ = button;
+    row->addWidget(button);
+  }
+  return row;
+}
+
+void MainWindow::offerFlipIfAsked() {
+  if (!editor_.window().flipChoiceVisible) return;
+  QMenu choice(this);
+  QAction* horizontal = choice.addAction(text(std::string(kFlipHorizontalChoice)));
+  QAction* vertical = choice.addAction(text(std::string(kFlipVerticalChoice)));
+  QAction* chosen = choice.exec(QCursor::pos());
+  if (chosen == horizontal) run([this] { editor_.chooseFlip(FlipAxis::Horizontal); });
+  if (chosen == vertical) run([this] { editor_.chooseFlip(FlipAxis::Vertical); });
 }
 
 void MainWindow::refresh() {
@@ -124,6 +193,9 @@ void MainWindow::refresh() {
   mirrorList(symbolList_, window.symbolList);
   for (QAction* action : heldWhileDrawing_) action->setEnabled(window.menusEnabled);
   dialog_->mirror();
+  scaleDialog_->mirror();
+  hint_->setText(text(window.hint));
+  if (isoButton_) isoButton_->setText(text(window.isoCaption));
   switch (window.pointer) {
     case Pointer::Busy:
       QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -5,11 +5,13 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QPushButton>
 #include <vector>
 
 #include "app/editor.h"
 #include "ui/drawing_surface.h"
 #include "ui/new_symbol_dialog_view.h"
+#include "ui/scale_dialog_view.h"
 
 namespace quorn::ui {
 
@@ -30,6 +32,9 @@ class MainWindow : public QMainWindow {
 
  private:
   void buildMenus();
+  QLayout* buildActionButtons();
+  /// Offers the two flips while the editor shows the flip choice.
+  void offerFlipIfAsked();
   /// Runs an editor command and shows what it changed.
   template <typename Command>
   void run(Command command) {
@@ -50,6 +55,9 @@ class MainWindow : public QMainWindow {
   QLabel* charLabel_;
   QLabel* status_;
   NewSymbolDialogView* dialog_;
+  ScaleDialogView* scaleDialog_;
+  QPushButton* isoButton_ = nullptr;
+  QLabel* hint_;
 };
 
 }  // namespace quorn::ui

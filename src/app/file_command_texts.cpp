@@ -37,8 +37,4 @@ std::string plainExitQuestion() {
   return std::string("              Select OK to quit") + "\n" + "or Cancel to Cancel this Action";
 }
 
-std::string missingEndPointText() {
-  return "Symbol Must Have an End Point before terminating.";
-}
-
 }  // namespace quorn

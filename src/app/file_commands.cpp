@@ -39,7 +39,7 @@ bool saveThroughDialog(FileCommandContext& context) {
 /// The Yes answer to a pending-symbol question: the symbol goes into its place in the set.
 bool storePendingSymbol(FileCommandContext& context) {
   if (!context.state.endPointPlaced) {
-    ask(context, missingEndPointText(), Buttons::Ok);
+    ask(context, std::string(kNoEndPointText), Buttons::Ok);
     return false;
   }
   if (!storeWorkingSymbol(context.working, context.state.spindlePointPlaced, context.grid,

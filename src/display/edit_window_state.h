@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "display/window_texts.h"
+
 namespace quorn {
 
 enum class Pointer { Normal, Busy, Crosshair };
@@ -17,7 +19,7 @@ struct ListState {
 };
 
 struct EditWindowState {
-  std::string caption = "User Defined Symbols Editor";
+  std::string caption{kWindowCaption};
   std::string prompt;
   std::string countLabel;
   std::string statusText;

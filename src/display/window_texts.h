@@ -3,7 +3,19 @@
 
 #include <string>
 
+#include <string_view>
+
 namespace quorn {
+
+/// The edit window's caption when no file is open; also the title of a few questions.
+inline constexpr std::string_view kWindowCaption = "User Defined Symbols Editor";
+inline constexpr std::string_view kSelectNewSymbolPrompt = "Select New Symbol";
+/// The prompt that waits for a new symbol's start point.
+inline constexpr std::string_view kStartPointPrompt =
+    "Move to Start Point for Symbol and Select with Left Button";
+/// Done, or a pending symbol stored by a File command, without an end point.
+inline constexpr std::string_view kNoEndPointText =
+    "Symbol Must Have an End Point before terminating.";
 
 /// The count with its leading blank when not negative, then " Symbols Loaded": what the
 /// count label and the status show after a set changes size.

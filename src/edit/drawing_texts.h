@@ -3,6 +3,8 @@
 // place. The texts of arcs and circles, of deleting and moving, and the snap label are with
 // their own features (construction_texts.h, editing_texts.h).
 
+#include "display/window_texts.h"
+
 #include <string>
 #include <string_view>
 
@@ -47,7 +49,6 @@ inline constexpr std::string_view kNineTappingPointsText =
     "Only 9 Tapping Points are allowed on any one symbol.";
 
 // The right button.
-inline constexpr std::string_view kSelectNewSymbolPrompt = "Select New Symbol";
 inline constexpr std::string_view kOperationCancelledPrompt =
     "Left Button = Select Start Point for Line. Right Button = Refresh Screen. Or Select any "
     "Action Button.";
@@ -55,8 +56,6 @@ inline constexpr std::string_view kMoveModePrompt =
     "Left Button = Select Start Point for Line. Right Button = Refresh Screen.";
 
 // Done.
-inline constexpr std::string_view kNoEndPointText =
-    "Symbol Must Have an End Point before terminating.";
 inline constexpr std::string_view kSpindleKeyWithoutPointText =
     "Spindle SKEY has been specified but no Spindle Point has been Defined";
 inline constexpr std::string_view kSpindlePointRequiredText =

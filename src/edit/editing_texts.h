@@ -2,6 +2,8 @@
 // Every prompt, message, question and caption of deleting, moving, undo, erase and the
 // whole-symbol transformations, in one place.
 
+#include "display/window_texts.h"
+
 #include <string>
 #include <string_view>
 
@@ -47,8 +49,6 @@ inline constexpr std::string_view kTappingPointNotFound = "Tapping Point not fou
 // Undo.
 inline constexpr std::string_view kUndoLinePrompt =
     "Select End point and Draw Line. Right Button > Move Mode.";
-inline constexpr std::string_view kStartPointPrompt =
-    "Move to Start Point for Symbol and Select with Left Button";
 
 // Erase.
 inline constexpr std::string_view kEraseQuestion =
@@ -59,7 +59,7 @@ inline constexpr std::string_view kErasedPrompt =
     "Select New Symbol or use Show to view and edit Current Symbols.";
 
 // Deleting a symbol from the Current Set.
-inline constexpr std::string_view kDeleteSymbolTitle = "User Defined Symbols Editor";
+inline constexpr std::string_view kDeleteSymbolTitle = kWindowCaption;
 
 // The snap label, which the Delete menu switches off and the reset switches back on.
 inline constexpr std::string_view kSnapOnLabel = "Snap is On";

@@ -2,6 +2,8 @@
 // Every text of beginning a symbol: opening the new-symbol dialog, Create, and the two pickers
 // of the dialog.
 
+#include "display/window_texts.h"
+
 #include <string>
 #include <string_view>
 
@@ -19,8 +21,7 @@ inline constexpr std::string_view kEditedSymbolPrompt =
     "Use the various control buttons and menu items to modify the Symbol.";
 inline constexpr std::string_view kCopiedSymbolPrompt =
     "Left Button = Select start Point for Line. Right Button = Refresh Screen.";
-inline constexpr std::string_view kBlankSymbolPrompt =
-    "Move to Start Point for Symbol and Select with Left Button";
+inline constexpr std::string_view kBlankSymbolPrompt = kStartPointPrompt;
 
 /// The erase button's caption while a stored symbol is edited.
 inline constexpr std::string_view kEraseRetainCaption =

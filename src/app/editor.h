@@ -36,6 +36,15 @@ class Editor {
   /// The second stage, run once when the start-up timer fires.
   std::optional<FatalError> startSecondStage();
 
+  // The Help menu: the Read Me viewer, the tips panel and the About box.
+  void showReadMe();
+  void closeReadMe() { window_.readMeVisible = false; }
+  void showTipsPanel();
+  void chooseTipRow(int row);
+  void closeTipsPanel();
+  void showAbout() { window_.aboutVisible = true; }
+  void closeAbout() { window_.aboutVisible = false; }
+
   /// The tips dialog's "&Close" button.
   void closeTipsDialog() { window_.tipsDialogVisible = false; }
 

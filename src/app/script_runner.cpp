@@ -14,6 +14,7 @@
 #include "app/script_dialog_verbs.h"
 #include "app/script_drawing_verbs.h"
 #include "app/script_words.h"
+#include "app/startup_texts.h"
 #include "config/palette.h"
 #include "display/display_list.h"
 #include "files/symbol_file_writer.h"
@@ -167,6 +168,14 @@ class ScriptRunner {
       problem = menu(rest);
     } else if (verb == "close-tips") {
       problem = started() ? (editor_.closeTipsDialog(), std::nullopt) : notStarted();
+    } else if (verb == "close-read-me") {
+      problem = started() ? (editor_.closeReadMe(), std::nullopt) : notStarted();
+    } else if (verb == "close-tips-panel") {
+      problem = started() ? (editor_.closeTipsPanel(), std::nullopt) : notStarted();
+    } else if (verb == "close-about") {
+      problem = started() ? (editor_.closeAbout(), std::nullopt) : notStarted();
+    } else if (verb == "tip") {
+      problem = chooseTip(rest);
     } else if (verb == "close") {
       problem = started() ? decide(editor_.closeWindow()) : notStarted();
     } else if (verb == "group" || verb == "row") {
@@ -233,6 +242,11 @@ class ScriptRunner {
         {"File > Save", [&] { return editor_.saveFile(), std::optional<std::string>(); }},
         {"File > Save As", [&] { return editor_.saveFileAs(), std::optional<std::string>(); }},
         {"File > Exit", [&] { return decide(editor_.exitEditor()); }},
+        {"Help > View Read Me File",
+         [&] { return editor_.showReadMe(), std::optional<std::string>(); }},
+        {"Help > Tips - Show User Tips",
+         [&] { return editor_.showTipsPanel(), std::optional<std::string>(); }},
+        {"Help > About", [&] { return editor_.showAbout(), std::optional<std::string>(); }},
         {"View > Standard Library",
          [&] { return editor_.viewStandardLibrary(), std::optional<std::string>(); }},
         {"Symbol > New", [&] { return editor_.newSymbol(), std::optional<std::string>(); }},
@@ -247,6 +261,20 @@ class ScriptRunner {
     if (auto refusal = disabledMenuEntry(editor_, path)) return refusal;
     if (entry == entries.end()) return runDrawingMenuEntry(editor_, path);
     return entry->second();
+  }
+
+  /// `tip N`: row N (from 1) of the tips panel.
+  std::optional<std::string> chooseTip(const std::vector<std::string>& words) {
+    if (!started()) return notStarted();
+    const ListState& rows = editor_.window().tipsPanel;
+    int row = 0;
+    if (!editor_.window().tipsPanelVisible || words.size() != 1 || !wholeNumber(words[0], row) ||
+        row < 1 || row > static_cast<int>(rows.rows.size())) {
+      return "tip takes a row number of the tips panel from 1 to " +
+             std::to_string(rows.rows.size());
+    }
+    editor_.chooseTipRow(row - 1);
+    return std::nullopt;
   }
 
   /// `group N` or `row N`: row N (from 1) of the group chooser or the symbol list.
@@ -316,6 +344,21 @@ class ScriptRunner {
     const EditWindowState& window = editor_.window();
     if (window.tipsDialogVisible && !shown_.tipsDialogVisible) {
       out_ << "tips-dialog " << quotedScriptText(window.tipText) << '\n';
+    }
+    if (window.readMeVisible && !shown_.readMeVisible) {
+      out_ << "read-me " << quotedScriptText(window.readMeText) << '\n';
+    }
+    if (window.tipsPanelVisible && !shown_.tipsPanelVisible) {
+      for (const std::string& row : window.tipsPanel.rows) {
+        out_ << "tip-row " << quotedScriptText(row) << '\n';
+      }
+    }
+    if (window.tipsPanelText != shown_.tipsPanelText && window.tipsPanelVisible) {
+      out_ << "tip-text " << quotedScriptText(window.tipsPanelText) << '\n';
+    }
+    if (window.aboutVisible && !shown_.aboutVisible) {
+      out_ << "about " << quotedScriptText(kAboutTitle) << ' '
+           << quotedScriptText(aboutText(editor_.startup().versionText)) << '\n';
     }
     for (const auto& [name, field] : followedTexts()) {
       if (shown_.*field != window.*field)

@@ -2,6 +2,13 @@
 
 namespace quorn {
 
+std::string aboutText(std::string_view versionText) {
+  return "Quorn Symbols Editor " + std::string(versionText) + "\n\n" +
+         "Draws and maintains the user-defined symbols of the KELVOR piping isometric system: " +
+         "their keys, attributes and shapes, saved as symbol files in the formats of " +
+         "SYMBOLS.INI.";
+}
+
 std::string tipsMissingText(std::string_view directoryShown) {
   return "TIPS.TXT not found in the " + std::string(directoryShown) + "\n" +
          "directory. User Tips will not be available " + "at Start Up";

@@ -15,6 +15,10 @@ inline constexpr std::string_view kTipsDialogTitle = "User Tips";
 inline constexpr std::string_view kTipsDialogNote =
     "For information on how to disable User Tips at Start Up, please see README.TXT.";
 
+inline constexpr std::string_view kAboutTitle = "About Symbols Editor";
+/// The About box's description of the program, with its version.
+std::string aboutText(std::string_view versionText);
+
 std::string tipsMissingText(std::string_view directoryShown);
 std::string tipsCorruptText();
 std::string helpMissingText(std::string_view directoryShown);

@@ -43,6 +43,14 @@ struct EditWindowState {
   /// The tips dialog of start-up with the chosen tip's text.
   std::string tipText;
   bool tipsDialogVisible = false;
+  /// The Read Me viewer with the text of READMESY.TXT.
+  std::string readMeText;
+  bool readMeVisible = false;
+  /// The tips panel: the tip headings, and the text of the tip chosen.
+  ListState tipsPanel;
+  std::string tipsPanelText;
+  bool tipsPanelVisible = false;
+  bool aboutVisible = false;
 };
 
 }  // namespace quorn

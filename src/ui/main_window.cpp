@@ -7,6 +7,7 @@
 #include <QKeySequence>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -151,6 +152,20 @@ void MainWindow::buildMenus() {
     move->addAction(tr(caption), this,
                     [this, which] { run([this, which] { editor_.chooseMoveEntry(which); }); });
   }
+
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  help->addAction(QStringLiteral("&View Read Me File"), QKeySequence::HelpContents, this, [this] {
+    run([this] { editor_.showReadMe(); });
+    showHelpWindows();
+  });
+  help->addAction(QStringLiteral("&Tips - Show User Tips"), this, [this] {
+    run([this] { editor_.showTipsPanel(); });
+    showHelpWindows();
+  });
+  help->addAction(QStringLiteral("&About"), this, [this] {
+    run([this] { editor_.showAbout(); });
+    showHelpWindows();
+  });
 }
 
 QLayout* MainWindow::buildActionButtons() {
@@ -168,6 +183,45 @@ QLayout* MainWindow::buildActionButtons() {
     row->addWidget(button);
   }
   return row;
+}
+
+void MainWindow::showHelpWindows() {
+  const EditWindowState& window = editor_.window();
+  if (window.readMeVisible) {
+    QDialog viewer(this);
+    viewer.setWindowTitle(text(std::string(kReadMeFileName)));
+    auto* layout = new QVBoxLayout(&viewer);
+    auto* view = new QPlainTextEdit(text(window.readMeText));
+    view->setReadOnly(true);
+    view->setFont(QFont(QStringLiteral("monospace")));
+    layout->addWidget(view);
+    viewer.resize(720, 560);
+    viewer.exec();
+    run([this] { editor_.closeReadMe(); });
+  }
+  if (window.tipsPanelVisible) {
+    QDialog panel(this);
+    panel.setWindowTitle(text(std::string(kTipsDialogTitle)));
+    auto* layout = new QHBoxLayout(&panel);
+    auto* headings = new QListWidget;
+    for (const std::string& row : window.tipsPanel.rows) headings->addItem(text(row));
+    auto* tipText = new QLabel;
+    tipText->setWordWrap(true);
+    tipText->setMinimumWidth(320);
+    connect(headings, &QListWidget::currentRowChanged, &panel, [this, tipText](int row) {
+      editor_.chooseTipRow(row);
+      tipText->setText(text(editor_.window().tipsPanelText));
+    });
+    layout->addWidget(headings);
+    layout->addWidget(tipText, 1);
+    panel.exec();
+    run([this] { editor_.closeTipsPanel(); });
+  }
+  if (window.aboutVisible) {
+    QMessageBox::about(this, text(std::string(kAboutTitle)),
+                       text(aboutText(editor_.startup().versionText)));
+    run([this] { editor_.closeAbout(); });
+  }
 }
 
 void MainWindow::offerFlipIfAsked() {

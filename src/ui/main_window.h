@@ -35,6 +35,8 @@ class MainWindow : public QMainWindow {
   QLayout* buildActionButtons();
   /// Offers the two flips while the editor shows the flip choice.
   void offerFlipIfAsked();
+  /// The Read Me viewer, the tips panel and the About box, while the editor shows them.
+  void showHelpWindows();
   /// Runs an editor command and shows what it changed.
   template <typename Command>
   void run(Command command) {

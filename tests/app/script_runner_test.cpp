@@ -64,8 +64,7 @@ TEST_F(ScriptRunnerTest, StartUpWarningsAndFaultsAreShown) {
       << shown;
   EXPECT_NE(shown.find("group-row \"Redefining Valves\""), std::string::npos) << shown;
   // The sample switches the tips on; the test's random number 0.5 picks tip 4 of 6.
-  EXPECT_NE(shown.find("tips-dialog \"A valve that carries a spindle"), std::string::npos)
-      << shown;
+  EXPECT_NE(shown.find("tips-dialog \"A valve that carries a spindle"), std::string::npos) << shown;
 
   fs::remove(temp.path() / "SYMBOLS.EXE");
   ASSERT_TRUE(run("start\nmenu File > New\n").ok);
@@ -90,6 +89,34 @@ TEST_F(ScriptRunnerTest, ClosingTheWindowWithUnsavedWorkAsksYesOrNo) {
   ASSERT_TRUE(run("start\nfile EXAMPLE.SYM\nmenu File > Open\nclose\n").ok) << output.str();
   EXPECT_NE(output.str().find("\nends\n"), std::string::npos) << "nothing changed: no question";
   EXPECT_EQ(output.str().find("message"), std::string::npos) << output.str();
+}
+
+TEST_F(ScriptRunnerTest, TheHelpMenuShowsTheReadMeTheTipsAndTheAbout) {
+  ASSERT_TRUE(run("start\nclose-tips\nmenu Help > Tips - Show User Tips\ntip 3\n"
+                  "close-tips-panel\nmenu Help > About\nclose-about\n"
+                  "menu Help > View Read Me File\nclose-read-me\n")
+                  .ok)
+      << output.str();
+  const std::string shown = output.str();
+  EXPECT_NE(shown.find("tip-row \"TIP 1 - Start from a standard symbol\"\n"), std::string::npos);
+  EXPECT_NE(shown.find("tip-text \"The right button ends a stroke: the next left click starts a "
+                       "new line with a pen-up move instead of drawing from the last point.\\n"
+                       "The same right button also refreshes the screen.\""),
+            std::string::npos)
+      << shown;
+  EXPECT_NE(shown.find("about \"About Symbols Editor\" \"Quorn Symbols Editor V "),
+            std::string::npos);
+  EXPECT_NE(shown.find("read-me \"QUORN SYMBOLS EDITOR - READ ME\\r\\n"), std::string::npos);
+
+  fs::remove(temp.path() / "READMESY.TXT");
+  ASSERT_TRUE(run("start\nmenu Help > View Read Me File\n").ok);
+  EXPECT_NE(output.str().find("message \"Quorn Symbols Editor\" \"READMESY.TXT not found in the "
+                              "directory with\\nSYMBOLS.EXE. Please load this file and try "
+                              "again.\" [OK]"),
+            std::string::npos)
+      << output.str();
+  EXPECT_EQ(run("start\ntip 1\n").error,
+            "line 2: tip takes a row number of the tips panel from 1 to 0");
 }
 
 }  // namespace

@@ -12,7 +12,6 @@
 namespace quorn {
 namespace {
 
-namespace fs = std::filesystem;
 
 // One symbol: start (0, 10 mm), a line 3 mm long, the spindle point at 15 mm and the end point
 // at 30 mm. On the test's screen the grid's divisions are 233 form units (0.5 mm), so these
@@ -31,9 +30,7 @@ constexpr const char* kOpened = "start\nclose-tips\nfile DRAW.SYM\nmenu File > O
 class DrawingScriptTest : public ::testing::Test {
  protected:
   DrawingScriptTest() {
-    for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
-      fs::copy_file(entry.path(), temp.path() / entry.path().filename());
-    }
+    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
     std::ofstream(temp.path() / "DRAW.SYM") << kDrawingFile;
     environment.current = temp.path();
   }

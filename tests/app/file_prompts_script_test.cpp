@@ -67,9 +67,7 @@ std::string question(const std::string& text, const std::string& buttons,
 class FilePromptsScriptTest : public ::testing::Test {
  protected:
   FilePromptsScriptTest() {
-    for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
-      fs::copy_file(entry.path(), temp.path() / entry.path().filename());
-    }
+    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
     environment.current = temp.path();
   }
 

@@ -16,7 +16,6 @@
 namespace quorn {
 namespace {
 
-namespace fs = std::filesystem;
 
 /// The storing formula, written out again: hundredths of a millimetre from the grid's
 /// bottom-left corner, single precision, cut towards minus infinity.
@@ -32,9 +31,7 @@ SymbolAction expectedStored(std::int16_t code, const WorkingAction& point,
 
 TEST(FullSymbol, EveryKindOfItemIsStoredByTheStoringFormula) {
   test::TempDirectory temp;
-  for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
-    fs::copy_file(entry.path(), temp.path() / entry.path().filename());
-  }
+  temp.copyFilesFrom(QUORN_SAMPLE_DIR);
   test::FakeEnvironment environment;
   environment.current = temp.path();
   test::RecordingMessages messages;

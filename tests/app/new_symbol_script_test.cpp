@@ -19,9 +19,7 @@ namespace fs = std::filesystem;
 class NewSymbolScriptTest : public ::testing::Test {
  protected:
   NewSymbolScriptTest() {
-    for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
-      fs::copy_file(entry.path(), temp.path() / entry.path().filename());
-    }
+    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
     environment.current = temp.path();
   }
 

@@ -17,9 +17,7 @@ namespace fs = std::filesystem;
 class ScriptRunnerTest : public ::testing::Test {
  protected:
   ScriptRunnerTest() {
-    for (const auto& entry : fs::directory_iterator(QUORN_SAMPLE_DIR)) {
-      fs::copy_file(entry.path(), temp.path() / entry.path().filename());
-    }
+    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
     environment.current = temp.path();
   }
 

@@ -28,6 +28,14 @@ std::filesystem::path TempDirectory::write(std::string_view name, std::string_vi
   return file;
 }
 
+void TempDirectory::copyFilesFrom(const std::filesystem::path& source) const {
+  for (const auto& entry : std::filesystem::directory_iterator(source)) {
+    if (entry.is_regular_file()) {
+      std::filesystem::copy_file(entry.path(), path_ / entry.path().filename());
+    }
+  }
+}
+
 std::string TempDirectory::read(std::string_view name) const {
   std::ifstream in(path_ / std::string(name), std::ios::binary);
   std::ostringstream content;

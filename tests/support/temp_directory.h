@@ -18,6 +18,8 @@ class TempDirectory {
   /// Writes `content` byte for byte into `name` and returns its path.
   std::filesystem::path write(std::string_view name, std::string_view content) const;
   std::string read(std::string_view name) const;
+  /// Copies every file of `source` (not its folders) into the directory.
+  void copyFilesFrom(const std::filesystem::path& source) const;
 
  private:
   std::filesystem::path path_;

@@ -1,5 +1,6 @@
-// symbols render: one symbol, or a catalogue sheet of every symbol of a file, as an SVG, PNG
-// or PDF file drawn by the window's own painting code.
+// symbols render: one symbol, a catalogue sheet of every symbol of a file, or the printed
+// symbol sheet of one symbol, as an SVG, PNG or PDF file drawn by the window's own painting
+// code.
 
 #include <QGuiApplication>
 #include <cstdlib>
@@ -12,8 +13,10 @@
 #include "cli/configuration_input.h"
 #include "cli/console_messages.h"
 #include "cli/workdir_option.h"
+#include "display/symbol_sheet.h"
 #include "files/open_symbol_file.h"
 #include "model/keys.h"
+#include "skey/browsing.h"
 #include "ui/symbol_renderer.h"
 
 namespace quorn::cli {
@@ -39,7 +42,8 @@ int runRender(const Words& words, std::ostream& out, std::ostream& err) {
   const Arguments arguments(words, {"workdir", "symbol", "out"});
   const auto output = arguments.option("out");
   if (!arguments.error().empty() || arguments.positional().size() != 1 || !output) {
-    err << "usage: symbols render FILE [--symbol N] --out OUT.{svg,png,pdf} [--workdir DIR]\n";
+    err << "usage: symbols render FILE [--symbol N] [--sheet] --out OUT.{svg,png,pdf} "
+           "[--workdir DIR]\n";
     return 2;
   }
   const WorkingDirectory directory = workingDirectoryFrom(arguments);
@@ -70,6 +74,24 @@ int runRender(const Words& words, std::ostream& out, std::ostream& err) {
   if (symbols.empty()) {
     err << "the file holds no symbol to draw\n";
     return 2;
+  }
+  if (arguments.has("sheet")) {
+    const SymbolRecord& record = *symbols.front().symbol;
+    WorkingSymbol working;
+    EditorState state;
+    loadWorkingSymbol(record, *layout.geometry, working, state);
+    const SymbolSheet sheet = symbolSheet(record, arguments.positional()[0], config);
+    const ui::SheetSymbol shown{&working, {state.endPointPlaced, state.spindlePointPlaced}};
+    return renderWithQt([&] {
+      const std::string problem =
+          ui::renderSymbolSheet(sheet, shown, config, *layout.geometry, *output);
+      if (!problem.empty()) {
+        err << *output << ": " << problem << '\n';
+        return 2;
+      }
+      out << "symbol sheet drawn to " << *output << '\n';
+      return 0;
+    });
   }
   return renderWithQt([&] {
     const std::string problem = ui::renderSymbols(symbols, config, *layout.geometry, *output);

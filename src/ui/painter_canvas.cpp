@@ -18,7 +18,7 @@ void PainterCanvas::use(const Pen& pen) {
   QPen qpen(colour(pen.colour));
   // Widths are device pixels, as on the screen the editor was made for.
   qpen.setCosmetic(true);
-  qpen.setWidth(pen.width);
+  qpen.setWidthF(pen.width * pixelScale_);
   switch (pen.style) {
     case PenStyle::Solid:
       qpen.setStyle(Qt::SolidLine);

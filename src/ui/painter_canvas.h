@@ -11,9 +11,10 @@ namespace quorn::ui {
 class PainterCanvas : public Canvas {
  public:
   /// Paints through `painter`, whose transform maps form units onto its device; clearing
-  /// fills `background`, in form units, with white.
-  PainterCanvas(QPainter& painter, const QRectF& background)
-      : painter_(painter), background_(background) {}
+  /// fills `background`, in form units, with white. Pen widths, given in screen pixels, are
+  /// multiplied by `pixelScale`, so a printer's fine dots draw lines as wide as the screen's.
+  PainterCanvas(QPainter& painter, const QRectF& background, double pixelScale = 1)
+      : painter_(painter), background_(background), pixelScale_(pixelScale) {}
 
   void clear() override;
   void line(double x1, double y1, double x2, double y2, const Pen& pen) override;
@@ -27,6 +28,7 @@ class PainterCanvas : public Canvas {
 
   QPainter& painter_;
   QRectF background_;
+  double pixelScale_;
 };
 
 }  // namespace quorn::ui

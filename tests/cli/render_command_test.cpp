@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "display/sheet_texts.h"
+#include "skey/dialog_texts.h"
 #include "support/run_command.h"
 #include "support/temp_directory.h"
 
@@ -53,6 +55,33 @@ TEST(RenderCommand, ACatalogueOfManySymbolsTakesSeveralPages) {
   ASSERT_EQ(result.status, 0) << result.err;
   EXPECT_EQ(result.out, "10 symbols drawn to " + (temp.path() / "ten.pdf").string() + "\n");
   EXPECT_NE(temp.read("ten.pdf").find("/Count 2"), std::string::npos);
+}
+
+TEST(RenderCommand, ASymbolSheetHoldsTheKeysAttributesAndLegendOfTheCore) {
+  test::TempDirectory temp;
+  for (const char* name : {"sheet.svg", "sheet.pdf"}) {
+    const auto result =
+        test::runSymbols({"render", sample("EXAMPLE.SYM"), "--symbol", "1", "--sheet", "--workdir",
+                          QUORN_SAMPLE_DIR, "--out", (temp.path() / name).string()});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "symbol sheet drawn to " + (temp.path() / name).string() + "\n");
+  }
+  const std::string pdf = temp.read("sheet.pdf");
+  EXPECT_EQ(pdf.substr(0, 4), "%PDF");
+  EXPECT_NE(pdf.find("/Count 1"), std::string::npos);
+
+  // The SVG keeps its texts readable: the captions and legend are the core's, the values
+  // those of the first sample symbol (Old SKEY VT, spindle 01SP, dimensions off).
+  const std::string svg = temp.read("sheet.svg");
+  std::vector<std::string> texts{std::string(kSheetHeading) + " VT**", "File: EXAMPLE.SYM",
+                                 std::string(kOldKeyCaption),          "VT**",
+                                 std::string(kSpindleKeyCaption),      "01SP",
+                                 std::string(kDimensionCaption),       "Turn Dimensions Off",
+                                 std::string(kSheetLegendHeading)};
+  for (std::string_view label : kLegendLabels) texts.emplace_back(label);
+  for (const std::string& text : texts) {
+    EXPECT_NE(svg.find(">" + text + "<"), std::string::npos) << text;
+  }
 }
 
 TEST(RenderCommand, RefusesWhatItCannotDraw) {

@@ -29,10 +29,14 @@ class ScriptedUser : public Messages, public FileChooser {
  public:
   explicit ScriptedUser(std::ostream& out) : out_(out) {}
 
+  /// Runs before anything is shown, so that what the window showed first is written first.
+  std::function<void()> beforeShowing;
+
   void queueAnswer(Answer answer) { answers_.push_back(answer); }
   void queueFile(std::optional<std::string> name) { files_.push_back(std::move(name)); }
 
   Answer ask(const Message& message) override {
+    if (beforeShowing) beforeShowing();
     Answer answer = Answer::Ok;
     if (message.buttons != Buttons::Ok) {
       if (answers_.empty()) {
@@ -62,6 +66,7 @@ class ScriptedUser : public Messages, public FileChooser {
 
  private:
   std::optional<std::string> choose(std::string_view kind, const FileDialogRequest& request) {
+    if (beforeShowing) beforeShowing();
     std::optional<std::string> chosen;
     if (files_.empty()) {
       unanswered_ = "a file dialog was shown with no file queued";
@@ -132,7 +137,9 @@ std::optional<Answer> answerNamed(std::string_view name) {
 class ScriptRunner {
  public:
   ScriptRunner(const std::filesystem::path& base, Environment& environment, std::ostream& out)
-      : base_(base), out_(out), user_(out), editor_(user_, user_, environment, drawing_) {}
+      : base_(base), out_(out), user_(out), editor_(user_, user_, environment, drawing_) {
+    user_.beforeShowing = [this] { reportWindowChanges(); };
+  }
 
   ScriptOutcome run(std::string_view script) {
     std::size_t lineNumber = 0;

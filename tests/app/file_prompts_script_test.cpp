@@ -134,7 +134,8 @@ TEST_F(FilePromptsScriptTest, NewAndOpenOfferToSaveAChangedSet) {
   const std::string openedAfterYes =
       after(finished(), "answer Yes\nfile KEPT.SYM\nfile EXAMPLE.SYM\nmenu File > Open\n");
   EXPECT_EQ(openedAfterYes.substr(0, openedAfterYes.find("file-dialog open")),
-            question(kUnsavedSet, "Yes No", "Yes") + saveDialog("", "KEPT.SYM"));
+            question(kUnsavedSet, "Yes No", "Yes") + saveDialog("", "KEPT.SYM") +
+                captionOf("KEPT.SYM"));
   EXPECT_NE(openedAfterYes.find(captionOf("EXAMPLE.SYM") +
                                 "prompt \"Select Symbol/Edit to Edit the Symbol Displayed.\"\n"
                                 "count \" 5 Symbols Loaded\"\n"),

@@ -11,10 +11,10 @@ std::optional<FatalError> Editor::startFirstStage(const std::string& commandLine
   return runFirstStage(startup_, commandLine, environment_, messages_);
 }
 
-std::optional<FatalError> Editor::startSecondStage() {
+std::optional<FatalError> Editor::startSecondStage(const std::function<void()>& windowShown) {
   window_.pointer = Pointer::Busy;
   SecondStageSteps steps;
-  steps.showEditWindow = [this]() -> std::optional<std::string> {
+  steps.showEditWindow = [this, &windowShown]() -> std::optional<std::string> {
     const GridLayout layout = layOutGrid(startup_.config, environment_.screenSize());
     if (!layout.geometry) return layout.problem;
     grid_ = *layout.geometry;
@@ -25,11 +25,13 @@ std::optional<FatalError> Editor::startSecondStage() {
     redrawGrid(canvas_, grid_, startup_.config);
     auto context = browseContext();
     refreshSymbolList(context);
+    if (windowShown) windowShown();
     return std::nullopt;
   };
-  steps.showTips = [this] {
+  steps.showTips = [this, &windowShown] {
     window_.tipText = startup_.tips.texts.at(static_cast<std::size_t>(startup_.chosenTip));
     window_.tipsDialogVisible = true;
+    if (windowShown) windowShown();
   };
   steps.openFile = [this](const std::string& fileName) {
     auto context = fileContext();

@@ -3,6 +3,7 @@
 // events of the edit window. The window, the command line and scripts all drive this object;
 // none of them decides anything itself.
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -33,8 +34,10 @@ class Editor {
 
   /// The first start-up stage; a fault that ends the program is returned.
   std::optional<FatalError> startFirstStage(const std::string& commandLine);
-  /// The second stage, run once when the start-up timer fires.
-  std::optional<FatalError> startSecondStage();
+  /// The second stage, run once when the start-up timer fires. `windowShown` is called when
+  /// the edit window is laid out and drawn and again when the tips dialog is asked for, so a
+  /// window can show both before the command-line file is opened.
+  std::optional<FatalError> startSecondStage(const std::function<void()>& windowShown = {});
 
   // The Help menu: the Read Me viewer, the tips panel and the About box.
   void showReadMe();
@@ -47,6 +50,9 @@ class Editor {
 
   /// The tips dialog's "&Close" button.
   void closeTipsDialog() { window_.tipsDialogVisible = false; }
+
+  /// The testing aids' values view closed; the next Open that reads a file shows it again.
+  void closeValuesView() { window_.valuesViewVisible = false; }
 
   // Browsing: the group chooser, the symbol list and the two views of it.
   void chooseGroup(int row);

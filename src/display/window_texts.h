@@ -17,6 +17,17 @@ inline constexpr std::string_view kStartPointPrompt =
 inline constexpr std::string_view kNoEndPointText =
     "Symbol Must Have an End Point before terminating.";
 
+/// The buttons of the window's own small dialogs: the tips dialog, the viewers, the Scale
+/// dialog and the spindle picker close with the first, the About box with the second.
+inline constexpr std::string_view kCloseCaption = "&Close";
+inline constexpr std::string_view kOkCaption = "OK";
+/// The picker buttons beside the new-symbol dialog's Old SKEY and Spindle SKEY fields.
+inline constexpr std::string_view kPickerButtonCaption = "...";
+/// The Scale dialog's title (its button on the edit window reads the same).
+inline constexpr std::string_view kScaleDialogTitle = "Scale";
+/// The testing aids' view of what the last Open read.
+inline constexpr std::string_view kValuesViewTitle = "Symbol File Values";
+
 /// The count with its leading blank when not negative, then " Symbols Loaded": what the
 /// count label and the status show after a set changes size.
 std::string symbolsLoadedText(int count);

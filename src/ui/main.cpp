@@ -1,7 +1,6 @@
 // symbols-editor: the edit window over the editor's core.
 
 #include <QApplication>
-#include <QLabel>
 #include <QStringList>
 #include <QTimer>
 
@@ -11,6 +10,7 @@
 #include "ui/qt_environment.h"
 #include "ui/qt_file_chooser.h"
 #include "ui/qt_messages.h"
+#include "ui/startup_window.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -30,18 +30,20 @@ int main(int argc, char** argv) {
     return 1;
   }
 
-  QLabel startupWindow(QString::fromUtf8(quorn::kStartupWindowText.data(),
-                                         static_cast<qsizetype>(quorn::kStartupWindowText.size())));
-  startupWindow.setWindowTitle(QString::fromStdString(editor.startup().startupCaption));
-  startupWindow.setAlignment(Qt::AlignCenter);
-  startupWindow.setMinimumSize(480, 160);
-  startupWindow.show();
+  quorn::ui::StartupWindow startupWindow(editor.startup().startupCaption);
+  startupWindow.showCentred();
 
   quorn::ui::MainWindow window(editor, surface);
   messages.setParent(&window);
   chooser.setParent(&window);
   QTimer::singleShot(1000, [&] {
-    const auto fatal = editor.startSecondStage();
+    // The edit window and the tips come up before the command-line file is opened, so its
+    // messages stand over the window.
+    const auto fatal = editor.startSecondStage([&] {
+      startupWindow.close();
+      window.show();
+      window.refresh();
+    });
     startupWindow.close();
     if (fatal) {
       showFatal(*fatal);
@@ -49,8 +51,6 @@ int main(int argc, char** argv) {
       return;
     }
     window.refresh();
-    window.show();
-    window.showTipsIfAsked();
   });
   return QApplication::exec();
 }

@@ -6,26 +6,116 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QStatusBar>
 #include <QVBoxLayout>
 
-#include "app/startup_texts.h"
 #include "edit/action_buttons.h"
 #include "edit/editing_texts.h"
+#include "ui/help_windows.h"
+#include "ui/print_sheet.h"
+#include "ui/qt_text.h"
+#include "ui/tips_dialog_view.h"
+#include "ui/values_view.h"
 
 namespace quorn::ui {
 
 namespace {
 
-QString text(const std::string& value) {
-  return QString::fromStdString(value);
+QString menuName(Menu menu) {
+  switch (menu) {
+    case Menu::File:
+      return QStringLiteral("fileMenu");
+    case Menu::Symbol:
+      return QStringLiteral("symbolMenu");
+    case Menu::View:
+      return QStringLiteral("viewMenu");
+    case Menu::Delete:
+      return QStringLiteral("deleteMenu");
+    case Menu::Move:
+      return QStringLiteral("moveMenu");
+    case Menu::Help:
+      return QStringLiteral("helpMenu");
+  }
+  return {};
+}
+
+/// The widget name of a menu entry's action.
+QString menuActionName(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::NewFile:
+      return QStringLiteral("newFileAction");
+    case MenuCommand::OpenFile:
+      return QStringLiteral("openFileAction");
+    case MenuCommand::SaveFile:
+      return QStringLiteral("saveFileAction");
+    case MenuCommand::SaveFileAs:
+      return QStringLiteral("saveFileAsAction");
+    case MenuCommand::Print:
+      return QStringLiteral("printAction");
+    case MenuCommand::Exit:
+      return QStringLiteral("exitAction");
+    case MenuCommand::NewSymbol:
+      return QStringLiteral("newSymbolAction");
+    case MenuCommand::EditSymbol:
+      return QStringLiteral("editSymbolAction");
+    case MenuCommand::StandardLibrary:
+      return QStringLiteral("standardLibraryAction");
+    case MenuCommand::CurrentSetView:
+      return QStringLiteral("currentSetAction");
+    case MenuCommand::DeleteLine:
+      return QStringLiteral("deleteLineAction");
+    case MenuCommand::DeleteInsulation:
+      return QStringLiteral("deleteInsulationAction");
+    case MenuCommand::DeleteTracing:
+      return QStringLiteral("deleteTracingAction");
+    case MenuCommand::DeleteTappingPoint:
+      return QStringLiteral("deleteTappingPointAction");
+    case MenuCommand::DeleteSpindlePoint:
+      return QStringLiteral("deleteSpindlePointAction");
+    case MenuCommand::DeleteSymbol:
+      return QStringLiteral("deleteSymbolAction");
+    case MenuCommand::MoveStartPoint:
+      return QStringLiteral("moveStartPointAction");
+    case MenuCommand::MoveEndPoint:
+      return QStringLiteral("moveEndPointAction");
+    case MenuCommand::MoveSpindlePoint:
+      return QStringLiteral("moveSpindlePointAction");
+    case MenuCommand::MoveSymbol:
+      return QStringLiteral("moveSymbolAction");
+    case MenuCommand::ViewReadMe:
+      return QStringLiteral("readMeAction");
+    case MenuCommand::ShowTips:
+      return QStringLiteral("tipsAction");
+    case MenuCommand::About:
+      return QStringLiteral("aboutAction");
+  }
+  return {};
+}
+
+/// The platform's usual keys for the File and Help entries that have them.
+QKeySequence shortcutOf(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::NewFile:
+      return QKeySequence::New;
+    case MenuCommand::OpenFile:
+      return QKeySequence::Open;
+    case MenuCommand::SaveFile:
+      return QKeySequence::Save;
+    case MenuCommand::SaveFileAs:
+      return QKeySequence::SaveAs;
+    case MenuCommand::Print:
+      return QKeySequence::Print;
+    case MenuCommand::Exit:
+      return QKeySequence::Quit;
+    case MenuCommand::ViewReadMe:
+      return QKeySequence::HelpContents;
+    default:
+      return {};
+  }
 }
 
 void mirrorList(QComboBox* box, const ListState& list) {
   QStringList rows;
-  for (const std::string& row : list.rows) rows << text(row);
+  for (const std::string& row : list.rows) rows << qtText(row);
   QStringList shown;
   for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
   if (shown != rows) {
@@ -38,7 +128,7 @@ void mirrorList(QComboBox* box, const ListState& list) {
 
 void mirrorList(QListWidget* widget, const ListState& list) {
   QStringList rows;
-  for (const std::string& row : list.rows) rows << text(row);
+  for (const std::string& row : list.rows) rows << qtText(row);
   QStringList shown;
   for (int i = 0; i < widget->count(); ++i) shown << widget->item(i)->text();
   if (shown != rows) {
@@ -66,6 +156,24 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
       scaleDialog_(new ScaleDialogView(
           editor, [this] { refresh(); }, this)),
       hint_(new QLabel) {
+  setObjectName(QStringLiteral("editWindow"));
+  const auto refreshWindow = [this] { refresh(); };
+  smallDialogs_ = {
+      new TipsDialogView(editor, refreshWindow, this), new ValuesView(editor, refreshWindow, this),
+      new ReadMeViewer(editor, refreshWindow, this), new TipsPanelView(editor, refreshWindow, this),
+      new AboutBox(editor, refreshWindow, this)};
+  surface_->setObjectName(QStringLiteral("drawingSurface"));
+  groupChooser_->setObjectName(QStringLiteral("groupChooser"));
+  symbolList_->setObjectName(QStringLiteral("symbolList"));
+  hint_->setObjectName(QStringLiteral("hintLine"));
+  prompt_->setObjectName(QStringLiteral("promptLine"));
+  countLabel_->setObjectName(QStringLiteral("countLabel"));
+  snapLabel_->setObjectName(QStringLiteral("snapLabel"));
+  charLabel_->setObjectName(QStringLiteral("charLabel"));
+  status_->setObjectName(QStringLiteral("statusLine"));
+  for (QLabel* label : {hint_, prompt_, countLabel_, snapLabel_, charLabel_, status_}) {
+    label->setTextFormat(Qt::PlainText);
+  }
   surface_->onPress = [this](bool left, float x, float y) {
     run([this, left, x, y] {
       editor_.pressMouse(left ? MouseButton::Left : MouseButton::Right, x, y);
@@ -101,78 +209,85 @@ MainWindow::MainWindow(Editor& editor, DrawingSurface* surface)
 }
 
 void MainWindow::buildMenus() {
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  heldWhileDrawing_.push_back(file->addAction(tr("&New"), QKeySequence::New, this,
-                                              [this] { run([this] { editor_.newFile(); }); }));
-  heldWhileDrawing_.push_back(file->addAction(tr("&Open..."), QKeySequence::Open, this,
-                                              [this] { run([this] { editor_.openFile(); }); }));
-  file->addAction(tr("&Save"), QKeySequence::Save, this,
-                  [this] { run([this] { editor_.saveFile(); }); });
-  file->addAction(tr("Save &As..."), QKeySequence(tr("Ctrl+Shift+S")), this,
-                  [this] { run([this] { editor_.saveFileAs(); }); });
-  file->addSeparator();
-  file->addAction(tr("E&xit"), QKeySequence::Quit, this,
-                  [this] { exitIfDecided(editor_.exitEditor()); });
-
-  QMenu* symbol = menuBar()->addMenu(tr("&Symbol"));
-  symbol->addAction(QStringLiteral("&New  - Create a New Symbol in the Current Set"), this,
-                    [this] { run([this] { editor_.newSymbol(); }); });
-  heldWhileDrawing_.push_back(
-      symbol->addAction(QStringLiteral("&Edit  - Edit the Symbol Displayed on the Screen"), this,
-                        [this] { run([this] { editor_.editSymbol(); }); }));
-  symbol->addSeparator();
-  symbol->addAction(QStringLiteral("&Standard Library"), this,
-                    [this] { run([this] { editor_.viewStandardLibrary(); }); });
-  symbol->addAction(QStringLiteral("S&ymbol - from Current Set"), this,
-                    [this] { run([this] { editor_.viewCurrentSet(); }); });
-
-  QMenu* erase = menuBar()->addMenu(tr("&Delete"));
-  connect(erase, &QMenu::aboutToShow, this, [this] { run([this] { editor_.openDeleteMenu(); }); });
-  const std::pair<const char*, DeleteEntry> deletes[] = {
-      {"&Line", DeleteEntry::Line},
-      {"&Insulation", DeleteEntry::Insulation},
-      {"&Tracing", DeleteEntry::Tracing},
-      {"Tapping &point", DeleteEntry::TappingPoint},
-      {"&Spindle point", DeleteEntry::SpindlePoint}};
-  for (const auto& [caption, entry] : deletes) {
-    const DeleteEntry which = entry;
-    erase->addAction(tr(caption), this,
-                     [this, which] { run([this, which] { editor_.chooseDeleteEntry(which); }); });
+  for (const MenuText& menuText : kMenuTexts) {
+    QMenu* menu = menuBar()->addMenu(qtText(menuText.caption));
+    menu->setObjectName(menuName(menuText.menu));
+    menus_[menuText.menu] = menu;
+    for (const MenuEntryText& entry : kMenuEntryTexts) {
+      if (entry.menu != menuText.menu) continue;
+      if (entry.separatorBefore) menu->addSeparator();
+      const MenuCommand command = entry.command;
+      QAction* action = menu->addAction(qtText(entry.caption), shortcutOf(command), this,
+                                        [this, command] { runMenuCommand(command); });
+      action->setObjectName(menuActionName(command));
+      menuActions_[command] = action;
+      if (entry.waitsForDone) heldWhileDrawing_.push_back(action);
+    }
   }
-  erase->addAction(tr("S&ymbol"), this, [this] { run([this] { editor_.deleteSymbol(); }); });
+  // Opening the Delete or the Move menu is an event of its own: it sets the operation.
+  connect(menus_[Menu::Delete], &QMenu::aboutToShow, this,
+          [this] { run([this] { editor_.openDeleteMenu(); }); });
+  connect(menus_[Menu::Move], &QMenu::aboutToShow, this,
+          [this] { run([this] { editor_.openMoveMenu(); }); });
+}
 
-  QMenu* move = menuBar()->addMenu(tr("&Move"));
-  connect(move, &QMenu::aboutToShow, this, [this] { run([this] { editor_.openMoveMenu(); }); });
-  const std::pair<const char*, MoveEntry> moves[] = {{"&Start point", MoveEntry::StartPoint},
-                                                     {"&End point", MoveEntry::EndPoint},
-                                                     {"S&pindle point", MoveEntry::SpindlePoint},
-                                                     {"S&ymbol", MoveEntry::Symbol}};
-  for (const auto& [caption, entry] : moves) {
-    const MoveEntry which = entry;
-    move->addAction(tr(caption), this,
-                    [this, which] { run([this, which] { editor_.chooseMoveEntry(which); }); });
+void MainWindow::runMenuCommand(MenuCommand command) {
+  switch (command) {
+    case MenuCommand::NewFile:
+      return run([this] { editor_.newFile(); });
+    case MenuCommand::OpenFile:
+      return run([this] { editor_.openFile(); });
+    case MenuCommand::SaveFile:
+      return run([this] { editor_.saveFile(); });
+    case MenuCommand::SaveFileAs:
+      return run([this] { editor_.saveFileAs(); });
+    case MenuCommand::Print:
+      return printWorkingSymbol(this, editor_);
+    case MenuCommand::Exit:
+      return exitIfDecided(editor_.exitEditor());
+    case MenuCommand::NewSymbol:
+      return run([this] { editor_.newSymbol(); });
+    case MenuCommand::EditSymbol:
+      return run([this] { editor_.editSymbol(); });
+    case MenuCommand::StandardLibrary:
+      return run([this] { editor_.viewStandardLibrary(); });
+    case MenuCommand::CurrentSetView:
+      return run([this] { editor_.viewCurrentSet(); });
+    case MenuCommand::DeleteLine:
+      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Line); });
+    case MenuCommand::DeleteInsulation:
+      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Insulation); });
+    case MenuCommand::DeleteTracing:
+      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Tracing); });
+    case MenuCommand::DeleteTappingPoint:
+      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::TappingPoint); });
+    case MenuCommand::DeleteSpindlePoint:
+      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::SpindlePoint); });
+    case MenuCommand::DeleteSymbol:
+      return run([this] { editor_.deleteSymbol(); });
+    case MenuCommand::MoveStartPoint:
+      return run([this] { editor_.chooseMoveEntry(MoveEntry::StartPoint); });
+    case MenuCommand::MoveEndPoint:
+      return run([this] { editor_.chooseMoveEntry(MoveEntry::EndPoint); });
+    case MenuCommand::MoveSpindlePoint:
+      return run([this] { editor_.chooseMoveEntry(MoveEntry::SpindlePoint); });
+    case MenuCommand::MoveSymbol:
+      return run([this] { editor_.chooseMoveEntry(MoveEntry::Symbol); });
+    case MenuCommand::ViewReadMe:
+      return run([this] { editor_.showReadMe(); });
+    case MenuCommand::ShowTips:
+      return run([this] { editor_.showTipsPanel(); });
+    case MenuCommand::About:
+      return run([this] { editor_.showAbout(); });
   }
-
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
-  help->addAction(QStringLiteral("&View Read Me File"), QKeySequence::HelpContents, this, [this] {
-    run([this] { editor_.showReadMe(); });
-    showHelpWindows();
-  });
-  help->addAction(QStringLiteral("&Tips - Show User Tips"), this, [this] {
-    run([this] { editor_.showTipsPanel(); });
-    showHelpWindows();
-  });
-  help->addAction(QStringLiteral("&About"), this, [this] {
-    run([this] { editor_.showAbout(); });
-    showHelpWindows();
-  });
 }
 
 QLayout* MainWindow::buildActionButtons() {
   auto* row = new QHBoxLayout;
   for (const ActionButtonText& entry : kActionButtonTexts) {
-    auto* button = new QPushButton(text(std::string(entry.caption)));
-    button->setToolTip(text(std::string(entry.hint)));
+    auto* button = new QPushButton(qtText(entry.caption));
+    button->setObjectName(withoutAccessKey(entry.caption));
+    button->setToolTip(qtText(entry.hint));
     button->setFocusPolicy(Qt::NoFocus);
     const ActionButton which = entry.button;
     connect(button, &QPushButton::clicked, this, [this, which] {
@@ -185,50 +300,12 @@ QLayout* MainWindow::buildActionButtons() {
   return row;
 }
 
-void MainWindow::showHelpWindows() {
-  const EditWindowState& window = editor_.window();
-  if (window.readMeVisible) {
-    QDialog viewer(this);
-    viewer.setWindowTitle(text(std::string(kReadMeFileName)));
-    auto* layout = new QVBoxLayout(&viewer);
-    auto* view = new QPlainTextEdit(text(window.readMeText));
-    view->setReadOnly(true);
-    view->setFont(QFont(QStringLiteral("monospace")));
-    layout->addWidget(view);
-    viewer.resize(720, 560);
-    viewer.exec();
-    run([this] { editor_.closeReadMe(); });
-  }
-  if (window.tipsPanelVisible) {
-    QDialog panel(this);
-    panel.setWindowTitle(text(std::string(kTipsDialogTitle)));
-    auto* layout = new QHBoxLayout(&panel);
-    auto* headings = new QListWidget;
-    for (const std::string& row : window.tipsPanel.rows) headings->addItem(text(row));
-    auto* tipText = new QLabel;
-    tipText->setWordWrap(true);
-    tipText->setMinimumWidth(320);
-    connect(headings, &QListWidget::currentRowChanged, &panel, [this, tipText](int row) {
-      editor_.chooseTipRow(row);
-      tipText->setText(text(editor_.window().tipsPanelText));
-    });
-    layout->addWidget(headings);
-    layout->addWidget(tipText, 1);
-    panel.exec();
-    run([this] { editor_.closeTipsPanel(); });
-  }
-  if (window.aboutVisible) {
-    QMessageBox::about(this, text(std::string(kAboutTitle)),
-                       text(aboutText(editor_.startup().versionText)));
-    run([this] { editor_.closeAbout(); });
-  }
-}
-
 void MainWindow::offerFlipIfAsked() {
   if (!editor_.window().flipChoiceVisible) return;
   QMenu choice(this);
-  QAction* horizontal = choice.addAction(text(std::string(kFlipHorizontalChoice)));
-  QAction* vertical = choice.addAction(text(std::string(kFlipVerticalChoice)));
+  choice.setObjectName(QStringLiteral("flipChoice"));
+  QAction* horizontal = choice.addAction(qtText(kFlipHorizontalChoice));
+  QAction* vertical = choice.addAction(qtText(kFlipVerticalChoice));
   QAction* chosen = choice.exec(QCursor::pos());
   if (chosen == horizontal) run([this] { editor_.chooseFlip(FlipAxis::Horizontal); });
   if (chosen == vertical) run([this] { editor_.chooseFlip(FlipAxis::Vertical); });
@@ -236,20 +313,25 @@ void MainWindow::offerFlipIfAsked() {
 
 void MainWindow::refresh() {
   const EditWindowState& window = editor_.window();
-  setWindowTitle(text(window.caption));
+  setWindowTitle(qtText(window.caption));
   surface_->setGrid(editor_.grid());
-  prompt_->setText(text(window.prompt));
-  countLabel_->setText(text(window.countLabel));
-  snapLabel_->setText(text(window.snapLabel));
-  charLabel_->setText(text(window.charLabel));
-  status_->setText(text(window.statusText));
+  prompt_->setText(qtText(window.prompt));
+  countLabel_->setText(qtText(window.countLabel));
+  snapLabel_->setText(qtText(window.snapLabel));
+  charLabel_->setText(qtText(window.charLabel));
+  status_->setText(qtText(window.statusText));
   mirrorList(groupChooser_, window.groupChooser);
   mirrorList(symbolList_, window.symbolList);
   for (QAction* action : heldWhileDrawing_) action->setEnabled(window.menusEnabled);
+  menus_[Menu::Move]->menuAction()->setVisible(window.moveMenuVisible);
   dialog_->mirror();
   scaleDialog_->mirror();
-  hint_->setText(text(window.hint));
-  if (isoButton_) isoButton_->setText(text(window.isoCaption));
+  // The small dialogs stand over the window, so they wait until it is shown.
+  if (isVisible()) {
+    for (MirroredDialog* small : smallDialogs_) small->mirror();
+  }
+  hint_->setText(qtText(window.hint));
+  if (isoButton_) isoButton_->setText(qtText(window.isoCaption));
   switch (window.pointer) {
     case Pointer::Busy:
       QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -257,18 +339,6 @@ void MainWindow::refresh() {
     default:
       while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
   }
-}
-
-void MainWindow::showTipsIfAsked() {
-  const EditWindowState& window = editor_.window();
-  if (!window.tipsDialogVisible) return;
-  QMessageBox tips(this);
-  tips.setWindowTitle(text(std::string(kTipsDialogTitle)));
-  tips.setText(text(window.tipText) + QStringLiteral("\n\n") + text(std::string(kTipsDialogNote)));
-  tips.addButton(tr("&Close"), QMessageBox::AcceptRole);
-  tips.exec();
-  editor_.closeTipsDialog();
-  refresh();
 }
 
 void MainWindow::exitIfDecided(ExitDecision decision) {

@@ -2,22 +2,22 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "display/window_texts.h"
 #include "skey/dialog_texts.h"
+#include "ui/qt_text.h"
 
 namespace quorn::ui {
 
 namespace {
 
-QString text(std::string_view value) {
-  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
-
 constexpr std::array<AttributeList, 3> kLists = {
     AttributeList::FlowArrow, AttributeList::Dimensions, AttributeList::Orientation};
+constexpr std::array<const char*, 3> kListNames = {"arrowList", "dimensionList", "orientationList"};
+/// The copy options' widget names, in the order of `CopyOption`.
+constexpr std::array<const char*, 3> kOptionNames = {"copyScreen", "copyCurrentSet", "copyLibrary"};
 
 }  // namespace
 
@@ -29,30 +29,41 @@ NewSymbolDialogView::NewSymbolDialogView(Editor& editor, std::function<void()> c
       oldKeyPicker_(new QToolButton),
       spindlePicker_(new QToolButton),
       mirror_(new QLabel),
-      copy_(new QCheckBox(text(kCopySymbolFromCaption))),
-      create_(new QPushButton) {
+      copy_(new QCheckBox(qtText(kCopySymbolFromCaption))),
+      create_(new QPushButton),
+      existingPickerView_(new ExistingSymbolPickerView(
+          editor, [this] { afterEvent(); }, this)),
+      spindlePickerView_(new SpindlePickerView(
+          editor, [this] { afterEvent(); }, this)) {
   setModal(true);
+  setObjectName(QStringLiteral("newSymbolDialog"));
   auto* layout = new QVBoxLayout(this);
   auto* grid = new QGridLayout;
-  oldKeyPicker_->setText(QStringLiteral("..."));
-  spindlePicker_->setText(QStringLiteral("..."));
-  addField(grid, 0, DialogField::OldKey, kOldKeyCaption, oldKeyPicker_);
-  addField(grid, 1, DialogField::NewKey, kNewKeyCaption);
-  addField(grid, 2, DialogField::SpindleKey, kSpindleKeyCaption, spindlePicker_);
-  addField(grid, 3, DialogField::ScaleFactor, kScaleFactorCaption);
-  grid->addWidget(new QLabel(text(kMirrorCaption)), 4, 0);
+  oldKeyPicker_->setText(qtText(kPickerButtonCaption));
+  oldKeyPicker_->setObjectName(QStringLiteral("oldKeyPicker"));
+  spindlePicker_->setText(qtText(kPickerButtonCaption));
+  spindlePicker_->setObjectName(QStringLiteral("spindleKeyPicker"));
+  addField(grid, 0, DialogField::OldKey, kOldKeyCaption, "oldKey", oldKeyPicker_);
+  addField(grid, 1, DialogField::NewKey, kNewKeyCaption, "newKey");
+  addField(grid, 2, DialogField::SpindleKey, kSpindleKeyCaption, "spindleKey", spindlePicker_);
+  addField(grid, 3, DialogField::ScaleFactor, kScaleFactorCaption, "scaleFactor");
+  grid->addWidget(new QLabel(qtText(kMirrorCaption)), 4, 0);
+  mirror_->setObjectName(QStringLiteral("mirrorType"));
   grid->addWidget(mirror_, 4, 1, 1, 2);
   const std::array<std::string_view, 3> captions = {kArrowCaption, kDimensionCaption,
                                                     kOrientationCaption};
   for (std::size_t i = 0; i < kLists.size(); ++i) {
-    lists_[i] = addList(grid, 5 + static_cast<int>(i), captions[i], kLists[i], &listCaptions_[i]);
+    lists_[i] = addList(grid, 5 + static_cast<int>(i), captions[i], kLists[i], kListNames[i],
+                        &listCaptions_[i]);
   }
   layout->addLayout(grid);
 
   auto* copyRow = new QHBoxLayout;
+  copy_->setObjectName(QStringLiteral("copySymbolFrom"));
   copyRow->addWidget(copy_);
   for (std::size_t i = 0; i < options_.size(); ++i) {
-    options_[i] = new QRadioButton(text(kCopyOptionCaptions[i]));
+    options_[i] = new QRadioButton(qtText(kCopyOptionCaptions[i]));
+    options_[i]->setObjectName(QLatin1String(kOptionNames[i]));
     copyRow->addWidget(options_[i]);
     connect(options_[i], &QRadioButton::clicked, this, [this, i] {
       if (mirroring_) return;
@@ -68,7 +79,9 @@ NewSymbolDialogView::NewSymbolDialogView(Editor& editor, std::function<void()> c
   });
 
   auto* buttons = new QHBoxLayout;
-  auto* cancel = new QPushButton(text(kCancelCaption));
+  auto* cancel = new QPushButton(qtText(kCancelCaption));
+  cancel->setObjectName(QStringLiteral("cancelButton"));
+  create_->setObjectName(QStringLiteral("createButton"));
   buttons->addStretch();
   buttons->addWidget(create_);
   buttons->addWidget(cancel);
@@ -81,18 +94,21 @@ NewSymbolDialogView::NewSymbolDialogView(Editor& editor, std::function<void()> c
   connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
   connect(oldKeyPicker_, &QToolButton::clicked, this, [this] {
     editor_.openExistingSymbolPicker();
-    runPicker();
+    afterEvent();
   });
   connect(spindlePicker_, &QToolButton::clicked, this, [this] {
     editor_.openSpindlePicker();
-    runPicker();
+    afterEvent();
   });
 }
 
 void NewSymbolDialogView::addField(QGridLayout* layout, int row, DialogField field,
-                                   std::string_view caption, QToolButton* picker) {
-  auto* label = new QLabel(text(caption));
+                                   std::string_view caption, const char* name,
+                                   QToolButton* picker) {
+  auto* label = new QLabel(qtText(caption));
+  label->setObjectName(QLatin1String(name) + QStringLiteral("Caption"));
   auto* edit = new QLineEdit;
+  edit->setObjectName(QLatin1String(name) + QStringLiteral("Field"));
   layout->addWidget(label, row, 0);
   layout->addWidget(edit, row, 1);
   if (picker) layout->addWidget(picker, row, 2);
@@ -108,9 +124,11 @@ void NewSymbolDialogView::addField(QGridLayout* layout, int row, DialogField fie
 }
 
 QComboBox* NewSymbolDialogView::addList(QGridLayout* layout, int row, std::string_view caption,
-                                        AttributeList list, QLabel** captionLabel) {
-  *captionLabel = new QLabel(text(caption));
+                                        AttributeList list, const char* name,
+                                        QLabel** captionLabel) {
+  *captionLabel = new QLabel(qtText(caption));
   auto* box = new QComboBox;
+  box->setObjectName(QLatin1String(name));
   layout->addWidget(*captionLabel, row, 0);
   layout->addWidget(box, row, 1, 1, 2);
   connect(box, &QComboBox::activated, this, [this, list](int position) {
@@ -125,29 +143,6 @@ void NewSymbolDialogView::afterEvent() {
   changed_();
 }
 
-void NewSymbolDialogView::runPicker() {
-  const auto& picker = editor_.symbolDialogs().picker;
-  if (!picker) {
-    afterEvent();
-    return;
-  }
-  QStringList rows;
-  for (const std::string& row : picker->rows) rows << QString::fromStdString(row);
-  bool chosen = false;
-  const QString choice =
-      QInputDialog::getItem(this, QString::fromStdString(picker->title),
-                            QString::fromStdString(picker->caption), rows, 0, false, &chosen);
-  if (!chosen) {
-    editor_.closePicker();
-  } else if (picker->kind == PickerKind::ExistingSymbol) {
-    editor_.pickExistingSymbol(static_cast<int>(rows.indexOf(choice)) + 1);
-  } else {
-    editor_.pickSpindle(choice.toStdString());
-    editor_.closePicker();
-  }
-  afterEvent();
-}
-
 void NewSymbolDialogView::reject() {
   editor_.pressCancel();
   afterEvent();
@@ -156,6 +151,8 @@ void NewSymbolDialogView::reject() {
 void NewSymbolDialogView::mirror() {
   const SymbolDialogs& dialogs = editor_.symbolDialogs();
   if (!dialogs.dialogOpen) {
+    existingPickerView_->mirror();
+    spindlePickerView_->mirror();
     if (isVisible()) QDialog::hide();
     return;
   }
@@ -200,6 +197,9 @@ void NewSymbolDialogView::mirror() {
   }
   mirroring_ = false;
   if (!isVisible()) open();
+  // The pickers stand over the dialog.
+  existingPickerView_->mirror();
+  spindlePickerView_->mirror();
 }
 
 }  // namespace quorn::ui

@@ -1,6 +1,11 @@
 #pragma once
 // The Add New Symbol / Edit Symbol dialog: it shows the editor's dialog state and hands every
-// change to the editor.
+// change to the editor. Widgets: "newSymbolDialog" with the fields "oldKeyField",
+// "newKeyField", "spindleKeyField", "scaleFactorField" (their captions: the same names ending
+// in "Caption"), the picker buttons "oldKeyPicker" and "spindleKeyPicker", "mirrorType", the
+// lists "arrowList", "dimensionList", "orientationList", the tick "copySymbolFrom", its options
+// "copyScreen", "copyCurrentSet", "copyLibrary", and the buttons "createButton" and
+// "cancelButton". Its two pickers are ExistingSymbolPickerView and SpindlePickerView.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,6 +20,8 @@
 #include <functional>
 
 #include "app/editor.h"
+#include "ui/existing_symbol_picker_view.h"
+#include "ui/spindle_picker_view.h"
 
 namespace quorn::ui {
 
@@ -39,11 +46,10 @@ class NewSymbolDialogView : public QDialog {
   };
 
   void addField(QGridLayout* layout, int row, DialogField field, std::string_view caption,
-                QToolButton* picker = nullptr);
+                const char* name, QToolButton* picker = nullptr);
   QComboBox* addList(QGridLayout* layout, int row, std::string_view caption, AttributeList list,
-                     QLabel** captionLabel);
+                     const char* name, QLabel** captionLabel);
   void afterEvent();
-  void runPicker();
 
   Editor& editor_;
   std::function<void()> changed_;
@@ -56,6 +62,8 @@ class NewSymbolDialogView : public QDialog {
   QCheckBox* copy_;
   std::array<QRadioButton*, 3> options_{};
   QPushButton* create_;
+  ExistingSymbolPickerView* existingPickerView_;
+  SpindlePickerView* spindlePickerView_;
   bool mirroring_ = false;
 };
 

@@ -3,17 +3,11 @@
 #include <QFormLayout>
 #include <QPushButton>
 
+#include "display/window_texts.h"
 #include "edit/editing_texts.h"
+#include "ui/qt_text.h"
 
 namespace quorn::ui {
-
-namespace {
-
-QString text(std::string_view value) {
-  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
-
-}  // namespace
 
 ScaleDialogView::ScaleDialogView(Editor& editor, std::function<void()> changed, QWidget* parent)
     : QDialog(parent),
@@ -21,12 +15,17 @@ ScaleDialogView::ScaleDialogView(Editor& editor, std::function<void()> changed, 
       changed_(std::move(changed)),
       division_(new QLineEdit),
       length_(new QLineEdit) {
-  setWindowTitle(QStringLiteral("Scale"));
+  setObjectName(QStringLiteral("scaleDialog"));
+  setWindowTitle(qtText(kScaleDialogTitle));
+  division_->setObjectName(QStringLiteral("gridDivisionField"));
+  length_->setObjectName(QStringLiteral("scaleLengthField"));
   auto* layout = new QFormLayout(this);
-  layout->addRow(text(kGridDivisionCaption), division_);
-  layout->addRow(text(kScaleLengthCaption), length_);
-  auto* rescale = new QPushButton(text(kRescaleCaption));
-  auto* close = new QPushButton(tr("&Close"));
+  layout->addRow(qtText(kGridDivisionCaption), division_);
+  layout->addRow(qtText(kScaleLengthCaption), length_);
+  auto* rescale = new QPushButton(qtText(kRescaleCaption));
+  rescale->setObjectName(QStringLiteral("rescaleButton"));
+  auto* close = new QPushButton(qtText(kCloseCaption));
+  close->setObjectName(QStringLiteral("scaleClose"));
   layout->addRow(rescale, close);
   connect(division_, &QLineEdit::textEdited, this,
           [this](const QString& typed) { editor_.typeGridDivision(typed.toStdString()); });
@@ -51,8 +50,8 @@ void ScaleDialogView::mirror() {
     if (isVisible()) QDialog::hide();
     return;
   }
-  division_->setText(QString::fromStdString(editor_.scaleDialog().gridDivision));
-  length_->setText(QString::fromStdString(editor_.scaleDialog().scaleLength));
+  division_->setText(qtText(editor_.scaleDialog().gridDivision));
+  length_->setText(qtText(editor_.scaleDialog().scaleLength));
   if (!isVisible()) show();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 // The Scale dialog: grid division and horizontal scale length, and "&Rescale Symbol".
+// Widgets: "scaleDialog" with "gridDivisionField", "scaleLengthField", "rescaleButton" and
+// "scaleClose".
 
 #include <QDialog>
 #include <QLineEdit>

@@ -5,13 +5,10 @@
 #include <sstream>
 #include <string>
 
-#include "app/script_runner.h"
-#include "support/fake_environment.h"
-#include "support/temp_directory.h"
+#include "support/sample_script_test.h"
 
 namespace quorn {
 namespace {
-
 
 // One symbol: start (0, 10 mm), a line 3 mm long, the spindle point at 15 mm and the end point
 // at 30 mm. On the test's screen the grid's divisions are 233 form units (0.5 mm), so these
@@ -27,33 +24,11 @@ constexpr const char* kDrawingFile =
 constexpr const char* kOpened = "start\nclose-tips\nfile DRAW.SYM\nmenu File > Open\n";
 
 /// Scripts run in a copy of the sample working directory with DRAW.SYM beside its files.
-class DrawingScriptTest : public ::testing::Test {
+class DrawingScriptTest : public test::SampleScriptTest {
  protected:
-  DrawingScriptTest() {
-    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
-    std::ofstream(temp.path() / "DRAW.SYM") << kDrawingFile;
-    environment.current = temp.path();
-  }
+  DrawingScriptTest() { std::ofstream(temp.path() / "DRAW.SYM") << kDrawingFile; }
 
-  /// The output of a script that must run to its end.
-  std::string run(std::string_view script) {
-    std::ostringstream output;
-    const ScriptOutcome outcome = runScript(script, temp.path(), environment, output);
-    EXPECT_TRUE(outcome.ok) << outcome.error << "\n" << output.str();
-    return output.str();
-  }
-
-  std::string error(std::string_view script) {
-    std::ostringstream output;
-    return runScript(script, temp.path(), environment, output).error;
-  }
-
-  static bool holds(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-  }
-
-  test::TempDirectory temp;
-  test::FakeEnvironment environment;
+  std::string error(std::string_view script) { return attempt(script).error; }
 };
 
 TEST_F(DrawingScriptTest, DrawingOnAShownSymbolIsStoredByDoneAndSaved) {

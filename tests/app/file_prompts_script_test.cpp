@@ -6,9 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "app/script_runner.h"
-#include "support/fake_environment.h"
-#include "support/temp_directory.h"
+#include "support/sample_script_test.h"
 
 namespace quorn {
 namespace {
@@ -64,20 +62,8 @@ std::string question(const std::string& text, const std::string& buttons,
 }
 
 /// Scripts of the File menu, run in a copy of the sample working directory.
-class FilePromptsScriptTest : public ::testing::Test {
+class FilePromptsScriptTest : public test::SampleScriptTest {
  protected:
-  FilePromptsScriptTest() {
-    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
-    environment.current = temp.path();
-  }
-
-  std::string run(const std::string& script) {
-    std::ostringstream output;
-    const ScriptOutcome outcome = runScript(script, temp.path(), environment, output);
-    EXPECT_TRUE(outcome.ok) << outcome.error << "\n" << output.str();
-    return output.str();
-  }
-
   /// What `more` shows when run after `setup`.
   std::string after(const std::string& setup, const std::string& more) {
     const std::string before = run(setup);
@@ -115,9 +101,6 @@ class FilePromptsScriptTest : public ::testing::Test {
   static std::string finished() {
     return std::string(kPendingNoEnd) + kSpindlePoint + kEndPoint + "button Done\n";
   }
-
-  test::TempDirectory temp;
-  test::FakeEnvironment environment;
 };
 
 TEST_F(FilePromptsScriptTest, NewAndOpenOfferToSaveAChangedSet) {
@@ -133,9 +116,9 @@ TEST_F(FilePromptsScriptTest, NewAndOpenOfferToSaveAChangedSet) {
   fs::remove(temp.path() / "KEPT.SYM");
   const std::string openedAfterYes =
       after(finished(), "answer Yes\nfile KEPT.SYM\nfile EXAMPLE.SYM\nmenu File > Open\n");
-  EXPECT_EQ(openedAfterYes.substr(0, openedAfterYes.find("file-dialog open")),
-            question(kUnsavedSet, "Yes No", "Yes") + saveDialog("", "KEPT.SYM") +
-                captionOf("KEPT.SYM"));
+  EXPECT_EQ(
+      openedAfterYes.substr(0, openedAfterYes.find("file-dialog open")),
+      question(kUnsavedSet, "Yes No", "Yes") + saveDialog("", "KEPT.SYM") + captionOf("KEPT.SYM"));
   EXPECT_NE(openedAfterYes.find(captionOf("EXAMPLE.SYM") +
                                 "prompt \"Select Symbol/Edit to Edit the Symbol Displayed.\"\n"
                                 "count \" 5 Symbols Loaded\"\n"),

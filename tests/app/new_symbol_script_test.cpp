@@ -6,9 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "app/script_runner.h"
-#include "support/fake_environment.h"
-#include "support/temp_directory.h"
+#include "support/sample_script_test.h"
 
 namespace quorn {
 namespace {
@@ -16,25 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Scripts of the new-symbol dialog, run in a copy of the sample working directory.
-class NewSymbolScriptTest : public ::testing::Test {
+class NewSymbolScriptTest : public test::SampleScriptTest {
  protected:
-  NewSymbolScriptTest() {
-    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
-    environment.current = temp.path();
-  }
-
-  std::string run(std::string_view script) {
-    output.str("");
-    const ScriptOutcome outcome = runScript(script, temp.path(), environment, output);
-    EXPECT_TRUE(outcome.ok) << outcome.error << "\n" << output.str();
-    return output.str();
-  }
-
-  ScriptOutcome runExpectingError(std::string_view script) {
-    output.str("");
-    return runScript(script, temp.path(), environment, output);
-  }
-
   /// The lines of `text` that start with one of `prefixes`, in order.
   static std::string linesStarting(const std::string& text,
                                    std::initializer_list<std::string_view> prefixes) {
@@ -52,14 +33,6 @@ class NewSymbolScriptTest : public ::testing::Test {
   std::string canvasAfter(const std::string& script) {
     return linesStarting(run(script + "dump canvas\n"), {"line ", "circle "});
   }
-
-  static bool holds(const std::string& text, std::string_view part) {
-    return text.find(part) != std::string::npos;
-  }
-
-  test::TempDirectory temp;
-  test::FakeEnvironment environment;
-  std::ostringstream output;
 };
 
 TEST_F(NewSymbolScriptTest, ABlankSymbolWaitsForItsStartPointAndHoldsTheMenus) {
@@ -79,13 +52,13 @@ TEST_F(NewSymbolScriptTest, ABlankSymbolWaitsForItsStartPointAndHoldsTheMenus) {
   EXPECT_EQ(linesStarting(shown, {"dialog "}), "dialog \"Add New Symbol\"\ndialog closed\n")
       << "the second New opens nothing";
 
-  EXPECT_EQ(runExpectingError("start\nmenu Symbol > New\nmenu File > Open\n").error,
+  EXPECT_EQ(attempt("start\nmenu Symbol > New\nmenu File > Open\n").error,
             "line 3: the dialog \"Add New Symbol\" is open");
-  EXPECT_EQ(runExpectingError("start\ngroup 2\nmenu Symbol > New\ntype \"Old Symbol Key\" VBSW\n"
-                              "press \"Create Symbol\"\nmenu File > New\n")
+  EXPECT_EQ(attempt("start\ngroup 2\nmenu Symbol > New\ntype \"Old Symbol Key\" VBSW\n"
+                    "press \"Create Symbol\"\nmenu File > New\n")
                 .error,
             "line 6: menu entry 'File > New' is disabled until the symbol is finished");
-  EXPECT_EQ(runExpectingError("start\ntype \"Old Symbol Key\" VBSW\n").error,
+  EXPECT_EQ(attempt("start\ntype \"Old Symbol Key\" VBSW\n").error,
             "line 2: the new-symbol dialog is not open");
   const std::string cancelled = run("start\nmenu Symbol > New\npress Cancel\nmenu File > New\n");
   EXPECT_TRUE(holds(cancelled, "dialog closed\n")) << cancelled;
@@ -166,7 +139,7 @@ TEST_F(NewSymbolScriptTest, EditingWithoutChangesRewritesTheSameRow) {
   EXPECT_FALSE(before.empty());
   EXPECT_EQ(linesStarting(shown, {"symbol-row "}), before);
 
-  EXPECT_EQ(runExpectingError(open + "menu Symbol > Edit\npress \"Create Symbol\"\n").error,
+  EXPECT_EQ(attempt(open + "menu Symbol > Edit\npress \"Create Symbol\"\n").error,
             "line 5: the dialog's buttons are \"Edit Symbol\" and \"Cancel\"");
 }
 
@@ -186,10 +159,10 @@ TEST_F(NewSymbolScriptTest, ThePickersFillTheOldAndSpindleKeys) {
   EXPECT_TRUE(holds(shown, "field \"Old Symbol Key\" \"VB**\"")) << shown;
   EXPECT_TRUE(holds(shown, "field \"Spindle Key\" \"02SP\"")) << shown;
 
-  EXPECT_EQ(runExpectingError("start\ngroup 1\nmenu Symbol > New\npicker spindle\n").error,
+  EXPECT_EQ(attempt("start\ngroup 1\nmenu Symbol > New\npicker spindle\n").error,
             "line 4: the spindle picker's button is disabled");
-  EXPECT_EQ(runExpectingError("start\ngroup 2\nmenu Symbol > New\npicker spindle\n"
-                              "type \"Scale Factor\" 50\n")
+  EXPECT_EQ(attempt("start\ngroup 2\nmenu Symbol > New\npicker spindle\n"
+                    "type \"Scale Factor\" 50\n")
                 .error,
             "line 5: the picker \"Standard Spindles\" is open");
 }

@@ -5,35 +5,18 @@
 #include <filesystem>
 #include <sstream>
 
-#include "support/fake_environment.h"
-#include "support/temp_directory.h"
+#include "support/sample_script_test.h"
 
 namespace quorn {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// Scripts run in a copy of the sample working directory.
-class ScriptRunnerTest : public ::testing::Test {
- protected:
-  ScriptRunnerTest() {
-    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
-    environment.current = temp.path();
-  }
-
-  ScriptOutcome run(std::string_view script) {
-    output.str("");
-    return runScript(script, temp.path(), environment, output);
-  }
-
-  test::TempDirectory temp;
-  test::FakeEnvironment environment;
-  std::ostringstream output;
-};
+using ScriptRunnerTest = test::SampleScriptTest;
 
 TEST_F(ScriptRunnerTest, OpenSaveAsAndReopenGiveTheSameSet) {
-  ASSERT_TRUE(run("start\nfile EXAMPLE.IDF\nmenu File > Open\ndump set\n"
-                  "answer OK\nfile COPY.IDF\nmenu File > Save As\n")
+  ASSERT_TRUE(attempt("start\nfile EXAMPLE.IDF\nmenu File > Open\ndump set\n"
+                      "answer OK\nfile COPY.IDF\nmenu File > Save As\n")
                   .ok)
       << output.str();
   const std::string first = output.str();
@@ -45,13 +28,13 @@ TEST_F(ScriptRunnerTest, OpenSaveAsAndReopenGiveTheSameSet) {
             std::string::npos)
       << first;
 
-  ASSERT_TRUE(run("start\nfile COPY.IDF\nmenu File > Open\ndump set\n").ok) << output.str();
+  ASSERT_TRUE(attempt("start\nfile COPY.IDF\nmenu File > Open\ndump set\n").ok) << output.str();
   EXPECT_NE(output.str().find(dumped), std::string::npos) << output.str();
 }
 
 TEST_F(ScriptRunnerTest, StartUpWarningsAndFaultsAreShown) {
   fs::remove(temp.path() / "SYMBOLS.LIB");
-  ASSERT_TRUE(run("start MISSING.SYM\ndump window\n").ok);
+  ASSERT_TRUE(attempt("start MISSING.SYM\ndump window\n").ok);
   const std::string shown = output.str();
   EXPECT_NE(shown.find("message \"Quorn Symbols Editor\" \"SYMBOLS.LIB not found in the "),
             std::string::npos)
@@ -65,34 +48,35 @@ TEST_F(ScriptRunnerTest, StartUpWarningsAndFaultsAreShown) {
   EXPECT_NE(shown.find("tips-dialog \"A valve that carries a spindle"), std::string::npos) << shown;
 
   fs::remove(temp.path() / "SYMBOLS.EXE");
-  ASSERT_TRUE(run("start\nmenu File > New\n").ok);
+  ASSERT_TRUE(attempt("start\nmenu File > New\n").ok);
   EXPECT_EQ(output.str().rfind("startup ", 0), 0u);
   EXPECT_NE(output.str().find("\nfatal \"The Working Directory is set to "), std::string::npos);
   EXPECT_EQ(output.str().substr(output.str().size() - 5), "ends\n") << "nothing runs after";
 }
 
 TEST_F(ScriptRunnerTest, ScriptMistakesNameTheirLine) {
-  EXPECT_EQ(run("start\n\nfly away\n").error, "line 3: unknown event 'fly'");
-  EXPECT_EQ(run("menu File > Open\n").error, "line 1: the editor has not been started");
-  EXPECT_EQ(run("start\nmenu File > Exit\n").error,
+  EXPECT_EQ(attempt("start\n\nfly away\n").error, "line 3: unknown event 'fly'");
+  EXPECT_EQ(attempt("menu File > Open\n").error, "line 1: the editor has not been started");
+  EXPECT_EQ(attempt("start\nmenu File > Exit\n").error,
             "line 2: a question was asked with no answer queued: \"              Select OK to "
             "quit\\nor Cancel to Cancel this Action\"");
-  EXPECT_EQ(run("start\nmenu File > Open\n").error,
+  EXPECT_EQ(attempt("start\nmenu File > Open\n").error,
             "line 2: a file dialog was shown with no file queued");
-  EXPECT_EQ(run("answer Maybe\n").error, "line 1: 'Maybe' is not an answer (Yes, No, OK, Cancel)");
-  EXPECT_EQ(run("dump \"set\n").error, "line 1: a quoted text is not closed");
+  EXPECT_EQ(attempt("answer Maybe\n").error,
+            "line 1: 'Maybe' is not an answer (Yes, No, OK, Cancel)");
+  EXPECT_EQ(attempt("dump \"set\n").error, "line 1: a quoted text is not closed");
 }
 
 TEST_F(ScriptRunnerTest, ClosingTheWindowWithUnsavedWorkAsksYesOrNo) {
-  ASSERT_TRUE(run("start\nfile EXAMPLE.SYM\nmenu File > Open\nclose\n").ok) << output.str();
+  ASSERT_TRUE(attempt("start\nfile EXAMPLE.SYM\nmenu File > Open\nclose\n").ok) << output.str();
   EXPECT_NE(output.str().find("\nends\n"), std::string::npos) << "nothing changed: no question";
   EXPECT_EQ(output.str().find("message"), std::string::npos) << output.str();
 }
 
 TEST_F(ScriptRunnerTest, TheHelpMenuShowsTheReadMeTheTipsAndTheAbout) {
-  ASSERT_TRUE(run("start\nclose-tips\nmenu Help > Tips - Show User Tips\ntip 3\n"
-                  "close-tips-panel\nmenu Help > About\nclose-about\n"
-                  "menu Help > View Read Me File\nclose-read-me\n")
+  ASSERT_TRUE(attempt("start\nclose-tips\nmenu Help > Tips - Show User Tips\ntip 3\n"
+                      "close-tips-panel\nmenu Help > About\nclose-about\n"
+                      "menu Help > View Read Me File\nclose-read-me\n")
                   .ok)
       << output.str();
   const std::string shown = output.str();
@@ -107,13 +91,13 @@ TEST_F(ScriptRunnerTest, TheHelpMenuShowsTheReadMeTheTipsAndTheAbout) {
   EXPECT_NE(shown.find("read-me \"QUORN SYMBOLS EDITOR - READ ME\\r\\n"), std::string::npos);
 
   fs::remove(temp.path() / "READMESY.TXT");
-  ASSERT_TRUE(run("start\nmenu Help > View Read Me File\n").ok);
+  ASSERT_TRUE(attempt("start\nmenu Help > View Read Me File\n").ok);
   EXPECT_NE(output.str().find("message \"Quorn Symbols Editor\" \"READMESY.TXT not found in the "
                               "directory with\\nSYMBOLS.EXE. Please load this file and try "
                               "again.\" [OK]"),
             std::string::npos)
       << output.str();
-  EXPECT_EQ(run("start\ntip 1\n").error,
+  EXPECT_EQ(attempt("start\ntip 1\n").error,
             "line 2: tip takes a row number of the tips panel from 1 to 0");
 }
 

@@ -43,9 +43,9 @@ std::vector<std::string> symbolRecords(const std::string& text) {
 }
 
 std::size_t countOf(const SymbolRecord& symbol, std::int16_t code) {
-  return static_cast<std::size_t>(std::count_if(
-      symbol.actions.begin(), symbol.actions.end(),
-      [code](const SymbolAction& action) { return action.type == code; }));
+  return static_cast<std::size_t>(
+      std::count_if(symbol.actions.begin(), symbol.actions.end(),
+                    [code](const SymbolAction& action) { return action.type == code; }));
 }
 
 /// What an editor started afresh holds after File › Open of `file`.

@@ -8,29 +8,15 @@
 #include <sstream>
 #include <string>
 
-#include "app/script_runner.h"
-#include "support/fake_environment.h"
-#include "support/temp_directory.h"
+#include "support/sample_script_test.h"
 
 namespace quorn {
 namespace {
 
 namespace fs = std::filesystem;
 
-class StartupScriptTest : public ::testing::Test {
+class StartupScriptTest : public test::SampleScriptTest {
  protected:
-  StartupScriptTest() {
-    temp.copyFilesFrom(QUORN_SAMPLE_DIR);
-    environment.current = temp.path();
-  }
-
-  std::string run(const std::string& script) {
-    std::ostringstream output;
-    const ScriptOutcome outcome = runScript(script, temp.path(), environment, output);
-    EXPECT_TRUE(outcome.ok) << outcome.error << "\n" << output.str();
-    return output.str();
-  }
-
   /// The working directory as messages name it.
   std::string dir() const { return temp.path().string(); }
 
@@ -38,9 +24,6 @@ class StartupScriptTest : public ::testing::Test {
   static std::string warning(const std::string& text) {
     return "message \"Quorn Symbols Editor\" \"" + text + "\" [OK] none -> OK\n";
   }
-
-  test::TempDirectory temp;
-  test::FakeEnvironment environment;
 };
 
 TEST_F(StartupScriptTest, MissingRequiredFilesEndTheProgramWithTheirMessage) {
@@ -106,7 +89,8 @@ TEST_F(StartupScriptTest, ATipCountThatIsNotMatchedShowsNoTips) {
 TEST_F(StartupScriptTest, TheCommandLineFileIsOpenedOrReportedAfterTheWindow) {
   const std::string missing = run("start NOSUCH.SYM\n");
   const std::string name = (temp.path() / "NOSUCH.SYM").string();
-  EXPECT_NE(missing.find("message \"Symbols Editor\" \"Can't find " + name + "\" [OK] exclamation "
+  EXPECT_NE(missing.find("message \"Symbols Editor\" \"Can't find " + name +
+                         "\" [OK] exclamation "
                          "-> OK\n"),
             std::string::npos)
       << missing;

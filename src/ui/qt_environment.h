@@ -7,7 +7,7 @@ namespace quorn::ui {
 
 class QtEnvironment : public SystemEnvironment {
  public:
-  /// The primary screen's available size in form units (1440 to the inch).
+  /// The primary screen's size in form units (1440 to the inch).
   ScreenSize screenSize() override;
 };
 

@@ -15,6 +15,7 @@ QStringList QtFileChooser::nameFilters(const std::string& filter) {
 
 std::optional<std::string> QtFileChooser::choose(const FileDialogRequest& request, bool save) {
   QFileDialog dialog(parent_);
+  dialog.setObjectName(save ? QStringLiteral("saveDialog") : QStringLiteral("openDialog"));
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   // The editor asks its own overwrite question, with its own words.

@@ -1,5 +1,6 @@
 #pragma once
-// The core's open and save dialogs as the system's file dialogs.
+// The core's open and save dialogs as the system's file dialogs, named "openDialog" and
+// "saveDialog".
 
 #include <QString>
 #include <QStringList>

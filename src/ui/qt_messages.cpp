@@ -54,6 +54,7 @@ Answer answerOf(int button) {
 Answer QtMessages::ask(const Message& message) {
   QMessageBox box(iconOf(message.icon), QString::fromStdString(message.title),
                   QString::fromStdString(message.text), buttonsOf(message.buttons), parent_);
+  box.setObjectName(QStringLiteral("messageBox"));
   // Escape (or the close box) means the least harmful answer the box offers.
   if (message.buttons == Buttons::YesNo) {
     box.setEscapeButton(QMessageBox::No);

@@ -1,5 +1,5 @@
 #pragma once
-// Messages and questions of the core shown as message boxes.
+// Messages and questions of the core shown as message boxes, each named "messageBox".
 
 #include <QWidget>
 

@@ -25,6 +25,9 @@ class Canvas {
   virtual void line(double x1, double y1, double x2, double y2, const Pen& pen) = 0;
   /// An unfilled circle.
   virtual void circle(double cx, double cy, double radius, const Pen& pen) = 0;
+  /// Marks that everything drawn since the last clear is the grid with its scale, which stays
+  /// unchanged until the next clear, so a surface may keep it painted. Draws nothing.
+  virtual void gridComplete() {}
 };
 
 }  // namespace quorn

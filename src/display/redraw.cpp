@@ -135,6 +135,7 @@ void redrawGrid(Canvas& canvas, const GridGeometry& grid, const Configuration& c
   canvas.clear();
   drawGridLines(canvas, grid, config);
   drawScale(canvas, grid, config);
+  canvas.gridComplete();
 }
 
 void drawWorkingSymbol(Canvas& canvas, const WorkingSymbol& symbol, const PlacedPoints& placed,

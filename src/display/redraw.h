@@ -71,7 +71,8 @@ struct PlacedPoints {
   bool spindlePoint = false;
 };
 
-/// Clears the surface and draws the grid and its scale. The caller sets its grid-drawn flag.
+/// Clears the surface, draws the grid and its scale, and marks the grid complete. The caller
+/// sets its grid-drawn flag.
 void redrawGrid(Canvas& canvas, const GridGeometry& grid, const Configuration& config);
 
 /// Draws the working symbol over the grid: the action walk, then the markers.

@@ -1,21 +1,30 @@
 #include "ui/drawing_surface.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
-
-#include "ui/painter_canvas.h"
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
 
 namespace quorn::ui {
 
 namespace {
 
-// The bands around the grid that the layout keeps free, in form units.
-constexpr double kRightBand = 250;
-constexpr double kFootBand = 1400;
+// Prints the wall-clock time in microseconds and ends the program.
+void reportFirstPaint() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  std::printf(
+      "first-paint %lld\n",
+      static_cast<long long>(std::chrono::duration_cast<std::chrono::microseconds>(now).count()));
+  std::fflush(stdout);
+  QCoreApplication::exit(0);
+}
 
 }  // namespace
 
-DrawingSurface::DrawingSurface() {
+DrawingSurface::DrawingSurface()
+    : exitAfterFirstPaint_(std::getenv("QUORN_EXIT_AFTER_FIRST_PAINT") != nullptr) {
   setMinimumSize(480, 360);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -36,19 +45,18 @@ void DrawingSurface::circle(double cx, double cy, double radius, const Pen& pen)
   update();
 }
 
+void DrawingSurface::gridComplete() {
+  drawing_.gridComplete();
+}
+
 void DrawingSurface::setGrid(const GridGeometry& grid) {
-  formArea_ =
-      QRectF(0, 0, kGridLeft + grid.gridWidth + kRightBand, kGridTop + grid.gridHeight + kFootBand);
+  grid_ = grid;
+  formArea_ = SurfacePainter::formArea(grid);
   update();
 }
 
 QTransform DrawingSurface::formToWidget() const {
-  const double scale = std::min(width() / formArea_.width(), height() / formArea_.height());
-  QTransform transform;
-  transform.translate((width() - formArea_.width() * scale) / 2,
-                      (height() - formArea_.height() * scale) / 2);
-  transform.scale(scale, scale);
-  return transform;
+  return SurfacePainter::formToDevice(size(), formArea_);
 }
 
 void DrawingSurface::mousePressEvent(QMouseEvent* event) {
@@ -60,19 +68,17 @@ void DrawingSurface::mousePressEvent(QMouseEvent* event) {
 
 void DrawingSurface::mouseMoveEvent(QMouseEvent* event) {
   const QPointF form = formToWidget().inverted().map(event->position());
-  const bool insideGrid = form.x() >= kGridLeft && form.x() <= formArea_.width() - kRightBand &&
-                          form.y() >= kGridTop && form.y() <= formArea_.height() - kFootBand;
-  setCursor(insideGrid ? Qt::CrossCursor : Qt::ArrowCursor);
+  setCursor(withinGrid(form.x(), form.y(), grid_) ? Qt::CrossCursor : Qt::ArrowCursor);
   if (onMove) onMove(static_cast<float>(form.x()), static_cast<float>(form.y()));
 }
 
 void DrawingSurface::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillRect(rect(), Qt::white);
-  painter.setTransform(formToWidget());
-  PainterCanvas canvas(painter, formArea_);
-  drawing_.paintOn(canvas);
+  painter_.paint(painter, size(), devicePixelRatioF(), drawing_, formArea_);
+  if (exitAfterFirstPaint_) {
+    exitAfterFirstPaint_ = false;
+    reportFirstPaint();
+  }
 }
 
 }  // namespace quorn::ui

@@ -1,13 +1,15 @@
 #pragma once
 // The drawing surface of the edit window. The editor draws on it in form units; it keeps the
 // drawing and paints it scaled to its size, so the window can be resized and works on any
-// screen without a stored coordinate changing.
+// screen without a stored coordinate changing. The grid is kept painted between repaints, so
+// a repaint costs the symbol and the rubber band alone.
 
 #include <QWidget>
 #include <functional>
 
 #include "display/display_list.h"
 #include "display/grid_geometry.h"
+#include "ui/surface_painter.h"
 
 namespace quorn::ui {
 
@@ -20,6 +22,7 @@ class DrawingSurface : public QWidget, public Canvas {
   void clear() override;
   void line(double x1, double y1, double x2, double y2, const Pen& pen) override;
   void circle(double cx, double cy, double radius, const Pen& pen) override;
+  void gridComplete() override;
 
   /// The grid decides the part of the form that is shown.
   void setGrid(const GridGeometry& grid);
@@ -38,7 +41,12 @@ class DrawingSurface : public QWidget, public Canvas {
   QTransform formToWidget() const;
 
   DisplayList drawing_;
+  SurfacePainter painter_;
+  GridGeometry grid_;
   QRectF formArea_{0, 0, 15360, 11520};
+  /// Set by the start-up benchmark (QUORN_EXIT_AFTER_FIRST_PAINT): the first paint prints
+  /// its time and ends the program.
+  bool exitAfterFirstPaint_;
 };
 
 }  // namespace quorn::ui

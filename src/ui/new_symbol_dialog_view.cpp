@@ -171,7 +171,6 @@ void NewSymbolDialogView::mirror() {
     }
     widgets.edit->setEnabled(field.enabled);
     widgets.caption->setEnabled(field.captionEnabled);
-    if (widgets.field == state.focus && isVisible()) widgets.edit->setFocus();
   }
   oldKeyPicker_->setEnabled(state.oldKey.pickerEnabled);
   spindlePicker_->setEnabled(state.spindleKey.pickerEnabled);
@@ -196,7 +195,16 @@ void NewSymbolDialogView::mirror() {
     options_[i]->setChecked(static_cast<std::size_t>(state.copyOption) == i);
   }
   mirroring_ = false;
-  if (!isVisible()) open();
+  const bool opening = !isVisible();
+  if (opening) open();
+  // The editor moves the focus when the dialog opens and when a field must be typed again;
+  // otherwise the user's Tab and clicks decide where it is.
+  if (opening || state.focus != focusShown_) {
+    for (const FieldWidgets& widgets : fields_) {
+      if (widgets.field == state.focus) widgets.edit->setFocus();
+    }
+  }
+  focusShown_ = state.focus;
   // The pickers stand over the dialog.
   existingPickerView_->mirror();
   spindlePickerView_->mirror();

@@ -65,6 +65,8 @@ class NewSymbolDialogView : public QDialog {
   ExistingSymbolPickerView* existingPickerView_;
   SpindlePickerView* spindlePickerView_;
   bool mirroring_ = false;
+  /// The editor's focus field when the dialog was last mirrored.
+  DialogField focusShown_ = DialogField::OldKey;
 };
 
 }  // namespace quorn::ui

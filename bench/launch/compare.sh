@@ -16,8 +16,9 @@
 # built, starts the second stage, which shows the edit window. Its launch time is therefore
 # taken as (first paint - start) - 1000 ms: the first stage and the building of the window
 # before the timer is armed, plus the second stage and the first paint after it fires. What
-# is left in it of the wait is the timer's lateness, well under a millisecond for Qt's
-# precise timer. The start-up window's painting falls inside the wait, and with it the
+# is left in it of the wait is the timer's lateness: about a millisecond, a few on a busy
+# machine, and the same in the plain window's like-for-like run below, which waits on the same
+# kind of timer. The start-up window's painting falls inside the wait, and with it the
 # one-time work of the first window on the screen (loading fonts, polishing the style), so
 # the plain window is measured twice: showing the same kind of start-up window for one
 # second first (--startup-window, also less 1000 ms), which is the like-for-like yardstick,

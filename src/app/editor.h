@@ -14,6 +14,7 @@
 #include "base/messages.h"
 #include "display/canvas.h"
 #include "display/edit_window_state.h"
+#include "display/menu_texts.h"
 #include "display/grid_geometry.h"
 #include "edit/drawing_engine.h"
 #include "edit/scale_dialog.h"
@@ -108,6 +109,14 @@ class Editor {
   void saveFileAs();
   ExitDecision exitEditor();
   ExitDecision closeWindow();
+
+  // The menus (src/app/editor_menu.cpp).
+  /// Opening a menu is an event of its own: the Delete and Move menus set the operation.
+  void openMenu(Menu menu);
+  /// The entry can be chosen now: its menu is shown and it does not wait for Done.
+  bool menuEntryOffered(const MenuEntryText& entry) const;
+  /// A menu entry chosen. Printing is the window's own, so File › Print changes nothing here.
+  ExitDecision chooseMenuEntry(MenuCommand command);
 
   const StartupData& startup() const { return startup_; }
   const CurrentSet& currentSet() const { return set_; }

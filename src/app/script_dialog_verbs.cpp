@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/script_words.h"
+#include "base/text.h"
 #include "skey/dialog_texts.h"
 
 namespace quorn {
@@ -39,18 +40,6 @@ constexpr std::array<std::string_view, 8> kVerbs = {"type",   "leave", "tick",  
 
 /// What may happen while the dialog is open besides its own lines.
 constexpr std::array<std::string_view, 4> kAllowedUnderDialog = {"answer", "file", "dump", "group"};
-
-/// The menu entries that wait for Done while a symbol is in progress.
-constexpr std::array<std::string_view, 3> kEntriesWaitingForDone = {"File > New", "File > Open",
-                                                                    "Symbol > Edit"};
-
-std::string withoutAccessKey(std::string_view caption) {
-  std::string text;
-  for (const char c : caption) {
-    if (c != '&') text += c;
-  }
-  return text;
-}
 
 std::optional<int> wholeNumber(const std::string& text) {
   int value = 0;
@@ -243,16 +232,6 @@ std::optional<std::string> refusedUnderDialog(const Editor& editor, std::string_
     if (verb == allowed) return std::nullopt;
   }
   return "the dialog " + quotedScriptText(dialogs.dialog.state().title) + " is open";
-}
-
-std::optional<std::string> disabledMenuEntry(const Editor& editor, std::string_view path) {
-  if (editor.window().menusEnabled) return std::nullopt;
-  for (const std::string_view entry : kEntriesWaitingForDone) {
-    if (path == entry) {
-      return "menu entry '" + std::string(path) + "' is disabled until the symbol is finished";
-    }
-  }
-  return std::nullopt;
 }
 
 std::optional<std::string> writeDialogDump(const Editor& editor, std::ostream& out) {

@@ -24,9 +24,6 @@ std::optional<std::string> runDialogVerb(Editor& editor, std::string_view verb,
 /// the dumps and the group chooser reach the editor. The problem for any other line.
 std::optional<std::string> refusedUnderDialog(const Editor& editor, std::string_view verb);
 
-/// The problem when `path` is a menu entry that waits for the symbol in progress.
-std::optional<std::string> disabledMenuEntry(const Editor& editor, std::string_view path);
-
 /// `dump dialog`: the title, every field with its text and what is enabled, the mirror
 /// caption, the lists with their items and chosen positions, the tick, the option, the
 /// buttons and the focus. The problem when the dialog is not open.

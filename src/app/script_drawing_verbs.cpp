@@ -83,32 +83,6 @@ std::optional<std::string> scale(Editor& editor, const std::vector<std::string>&
   return std::nullopt;
 }
 
-struct DeleteMenuEntry {
-  std::string_view path;
-  std::optional<DeleteEntry> entry;  // none for Symbol
-};
-
-constexpr std::array<DeleteMenuEntry, 6> kDeleteMenu = {{
-    {"Delete > Line", DeleteEntry::Line},
-    {"Delete > Insulation", DeleteEntry::Insulation},
-    {"Delete > Tracing", DeleteEntry::Tracing},
-    {"Delete > Tapping point", DeleteEntry::TappingPoint},
-    {"Delete > Spindle point", DeleteEntry::SpindlePoint},
-    {"Delete > Symbol", std::nullopt},
-}};
-
-struct MoveMenuEntry {
-  std::string_view path;
-  MoveEntry entry;
-};
-
-constexpr std::array<MoveMenuEntry, 4> kMoveMenu = {{
-    {"Move > Start point", MoveEntry::StartPoint},
-    {"Move > End point", MoveEntry::EndPoint},
-    {"Move > Spindle point", MoveEntry::SpindlePoint},
-    {"Move > Symbol", MoveEntry::Symbol},
-}};
-
 std::string_view yesNo(bool value) {
   return value ? "true" : "false";
 }
@@ -185,30 +159,6 @@ std::optional<std::string> runDrawingVerb(Editor& editor, std::string_view verb,
   if (verb == "flip") return flip(editor, words);
   if (verb == "scale") return scale(editor, words, out);
   return "'" + std::string(verb) + "' is not a drawing line";
-}
-
-bool isDrawingMenuEntry(std::string_view path) {
-  return path.starts_with("Delete > ") || path.starts_with("Move > ");
-}
-
-std::optional<std::string> runDrawingMenuEntry(Editor& editor, std::string_view path) {
-  for (const DeleteMenuEntry& item : kDeleteMenu) {
-    if (item.path != path) continue;
-    editor.openDeleteMenu();
-    if (item.entry) {
-      editor.chooseDeleteEntry(*item.entry);
-    } else {
-      editor.deleteSymbol();
-    }
-    return std::nullopt;
-  }
-  for (const MoveMenuEntry& item : kMoveMenu) {
-    if (item.path != path) continue;
-    editor.openMoveMenu();
-    editor.chooseMoveEntry(item.entry);
-    return std::nullopt;
-  }
-  return "unknown menu entry '" + std::string(path) + "'";
 }
 
 bool isDrawingDump(std::string_view what) {

@@ -21,9 +21,6 @@ bool isDrawingVerb(std::string_view verb);
 std::optional<std::string> runDrawingVerb(Editor& editor, std::string_view verb,
                                           const std::vector<std::string>& words, std::ostream& out);
 
-/// "Delete > ..." and "Move > ..." entries.
-bool isDrawingMenuEntry(std::string_view path);
-
 /// Opens the entry's menu and chooses the entry; the problem when there is no such entry.
 std::optional<std::string> runDrawingMenuEntry(Editor& editor, std::string_view path);
 

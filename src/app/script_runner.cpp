@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/editor.h"
+#include "app/menu_commands.h"
 #include "app/script_dialog_verbs.h"
 #include "app/script_drawing_verbs.h"
 #include "app/script_words.h"
@@ -243,31 +244,18 @@ class ScriptRunner {
     if (!started()) return notStarted();
     std::string path;
     for (const std::string& word : words) path += (path.empty() ? "" : " ") + word;
-    const std::map<std::string, std::function<std::optional<std::string>()>> entries = {
-        {"File > New", [&] { return editor_.newFile(), std::optional<std::string>(); }},
-        {"File > Open", [&] { return editor_.openFile(), std::optional<std::string>(); }},
-        {"File > Save", [&] { return editor_.saveFile(), std::optional<std::string>(); }},
-        {"File > Save As", [&] { return editor_.saveFileAs(), std::optional<std::string>(); }},
-        {"File > Exit", [&] { return decide(editor_.exitEditor()); }},
-        {"Help > View Read Me File",
-         [&] { return editor_.showReadMe(), std::optional<std::string>(); }},
-        {"Help > Tips - Show User Tips",
-         [&] { return editor_.showTipsPanel(), std::optional<std::string>(); }},
-        {"Help > About", [&] { return editor_.showAbout(), std::optional<std::string>(); }},
-        {"View > Standard Library",
-         [&] { return editor_.viewStandardLibrary(), std::optional<std::string>(); }},
-        {"Symbol > New", [&] { return editor_.newSymbol(), std::optional<std::string>(); }},
-        {"Symbol > Edit", [&] { return editor_.editSymbol(), std::optional<std::string>(); }},
-        {"View > Symbol - from Current Set",
-         [&] { return editor_.viewCurrentSet(), std::optional<std::string>(); }},
-    };
-    const auto entry = entries.find(path);
-    if (entry == entries.end() && !isDrawingMenuEntry(path)) {
-      return "unknown menu entry '" + path + "'";
+    const MenuEntryText* entry = menuEntryByPath(path);
+    if (!entry) return "unknown menu entry '" + path + "'";
+    if (entry->command == MenuCommand::Print) {
+      return "File > Print needs the window; symbols render draws symbols without one";
     }
-    if (auto refusal = disabledMenuEntry(editor_, path)) return refusal;
-    if (entry == entries.end()) return runDrawingMenuEntry(editor_, path);
-    return entry->second();
+    if (!editor_.menuEntryOffered(*entry)) {
+      return "menu entry '" + path + "' is " +
+             (entry->waitsForDone ? "disabled until the symbol is finished"
+                                  : "not shown: its menu is hidden");
+    }
+    editor_.openMenu(entry->menu);
+    return decide(editor_.chooseMenuEntry(entry->command));
   }
 
   /// `tip N`: row N (from 1) of the tips panel.

@@ -38,6 +38,14 @@ std::string upperCase(std::string_view text) {
   return result;
 }
 
+std::string withoutAccessKey(std::string_view caption) {
+  std::string plain;
+  for (const char c : caption) {
+    if (c != '&') plain += c;
+  }
+  return plain;
+}
+
 std::string normalisedWord(std::string_view text) {
   return upperCase(trimmed(text));
 }

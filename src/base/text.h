@@ -25,5 +25,7 @@ std::string_view rightPart(std::string_view text, std::size_t count);
 std::string_view midPart(std::string_view text, std::size_t position,
                          std::size_t count = std::string_view::npos);
 bool equalsIgnoringCase(std::string_view a, std::string_view b);
+/// A caption without its access-key marks: "E&nd" reads "End".
+std::string withoutAccessKey(std::string_view caption);
 
 }  // namespace quorn

@@ -2,19 +2,9 @@
 
 #include <string>
 
+#include "base/text.h"
+
 namespace quorn {
-
-namespace {
-
-std::string withoutAccessKey(std::string_view caption) {
-  std::string plain;
-  for (const char c : caption) {
-    if (c != '&') plain += c;
-  }
-  return plain;
-}
-
-}  // namespace
 
 std::string_view buttonHint(ActionButton button) {
   for (const ActionButtonText& text : kActionButtonTexts) {

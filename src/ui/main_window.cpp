@@ -221,65 +221,17 @@ void MainWindow::buildMenus() {
                                         [this, command] { runMenuCommand(command); });
       action->setObjectName(menuActionName(command));
       menuActions_[command] = action;
-      if (entry.waitsForDone) heldWhileDrawing_.push_back(action);
     }
+    // Opening a menu is an event of its own: the Delete and Move menus set the operation.
+    const Menu which = menuText.menu;
+    connect(menu, &QMenu::aboutToShow, this,
+            [this, which] { run([this, which] { editor_.openMenu(which); }); });
   }
-  // Opening the Delete or the Move menu is an event of its own: it sets the operation.
-  connect(menus_[Menu::Delete], &QMenu::aboutToShow, this,
-          [this] { run([this] { editor_.openDeleteMenu(); }); });
-  connect(menus_[Menu::Move], &QMenu::aboutToShow, this,
-          [this] { run([this] { editor_.openMoveMenu(); }); });
 }
 
 void MainWindow::runMenuCommand(MenuCommand command) {
-  switch (command) {
-    case MenuCommand::NewFile:
-      return run([this] { editor_.newFile(); });
-    case MenuCommand::OpenFile:
-      return run([this] { editor_.openFile(); });
-    case MenuCommand::SaveFile:
-      return run([this] { editor_.saveFile(); });
-    case MenuCommand::SaveFileAs:
-      return run([this] { editor_.saveFileAs(); });
-    case MenuCommand::Print:
-      return printWorkingSymbol(this, editor_);
-    case MenuCommand::Exit:
-      return exitIfDecided(editor_.exitEditor());
-    case MenuCommand::NewSymbol:
-      return run([this] { editor_.newSymbol(); });
-    case MenuCommand::EditSymbol:
-      return run([this] { editor_.editSymbol(); });
-    case MenuCommand::StandardLibrary:
-      return run([this] { editor_.viewStandardLibrary(); });
-    case MenuCommand::CurrentSetView:
-      return run([this] { editor_.viewCurrentSet(); });
-    case MenuCommand::DeleteLine:
-      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Line); });
-    case MenuCommand::DeleteInsulation:
-      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Insulation); });
-    case MenuCommand::DeleteTracing:
-      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::Tracing); });
-    case MenuCommand::DeleteTappingPoint:
-      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::TappingPoint); });
-    case MenuCommand::DeleteSpindlePoint:
-      return run([this] { editor_.chooseDeleteEntry(DeleteEntry::SpindlePoint); });
-    case MenuCommand::DeleteSymbol:
-      return run([this] { editor_.deleteSymbol(); });
-    case MenuCommand::MoveStartPoint:
-      return run([this] { editor_.chooseMoveEntry(MoveEntry::StartPoint); });
-    case MenuCommand::MoveEndPoint:
-      return run([this] { editor_.chooseMoveEntry(MoveEntry::EndPoint); });
-    case MenuCommand::MoveSpindlePoint:
-      return run([this] { editor_.chooseMoveEntry(MoveEntry::SpindlePoint); });
-    case MenuCommand::MoveSymbol:
-      return run([this] { editor_.chooseMoveEntry(MoveEntry::Symbol); });
-    case MenuCommand::ViewReadMe:
-      return run([this] { editor_.showReadMe(); });
-    case MenuCommand::ShowTips:
-      return run([this] { editor_.showTipsPanel(); });
-    case MenuCommand::About:
-      return run([this] { editor_.showAbout(); });
-  }
+  if (command == MenuCommand::Print) return printWorkingSymbol(this, editor_);
+  exitIfDecided(editor_.chooseMenuEntry(command));
 }
 
 QLayout* MainWindow::buildActionButtons() {
@@ -322,7 +274,9 @@ void MainWindow::refresh() {
   status_->setText(qtText(window.statusText));
   mirrorList(groupChooser_, window.groupChooser);
   mirrorList(symbolList_, window.symbolList);
-  for (QAction* action : heldWhileDrawing_) action->setEnabled(window.menusEnabled);
+  for (const MenuEntryText& entry : kMenuEntryTexts) {
+    menuActions_[entry.command]->setEnabled(editor_.menuEntryOffered(entry));
+  }
   menus_[Menu::Move]->menuAction()->setVisible(window.moveMenuVisible);
   dialog_->mirror();
   scaleDialog_->mirror();

@@ -55,8 +55,6 @@ class MainWindow : public QMainWindow {
   DrawingSurface* surface_;
   std::map<Menu, QMenu*> menus_;
   std::map<MenuCommand, QAction*> menuActions_;
-  /// The entries that wait while a symbol is in progress.
-  std::vector<QAction*> heldWhileDrawing_;
   QComboBox* groupChooser_;
   QListWidget* symbolList_;
   QLabel* prompt_;

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "edit/action_buttons.h"
@@ -247,6 +248,11 @@ QLayout* MainWindow::buildActionButtons() {
       offerFlipIfAsked();
     });
     if (which == ActionButton::IsoOrtho) isoButton_ = button;
+    // The platform's undo key works the Undo button; its access key stays as it is.
+    if (which == ActionButton::Undo) {
+      connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, button,
+              &QPushButton::click);
+    }
     row->addWidget(button);
   }
   return row;

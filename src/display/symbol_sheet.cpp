@@ -51,6 +51,16 @@ std::string sheetDocumentName(const SymbolText& symbol) {
   return std::string(kSheetDocumentName);
 }
 
+std::string sheetFileName(const SymbolText& symbol) {
+  std::string name = sheetDocumentName(symbol);
+  for (char& c : name) {
+    const bool plain = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
+                       c == '-' || c == '_';
+    if (!plain) c = '_';
+  }
+  return name + ".pdf";
+}
+
 SymbolSheet symbolSheet(const SymbolText& symbol, const std::string& fileName,
                         const Configuration& config) {
   SymbolSheet sheet;

@@ -45,6 +45,9 @@ SymbolSheet symbolSheet(const SymbolText& symbol, const std::string& fileName,
 
 /// The name a printed or written sheet is given: the symbol's key, else "symbol".
 std::string sheetDocumentName(const SymbolText& symbol);
+/// The PDF file a sheet is written to when there is no printer: the document name with every
+/// character but letters, digits, "-" and "_" made "_", then ".pdf" ("VB**" gives "VB__.pdf").
+std::string sheetFileName(const SymbolText& symbol);
 
 /// A legend sample: a working symbol whose slot `slot` draws the item, as the drawing code
 /// draws it on the grid (`drawAction`), centred on the point (0, 0) and `width` form units

@@ -20,7 +20,11 @@ void setUpSheetPrinter(QPrinter& printer, const Editor& editor) {
   printer.setFullPage(true);
   if (QPrinterInfo::availablePrinters().isEmpty()) {
     printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(QDir::current().filePath(name + QStringLiteral(".pdf")));
+    const auto& directory = editor.startup().directory;
+    const QDir folder =
+        directory ? QDir(QString::fromStdString(directory->path().string())) : QDir::current();
+    printer.setOutputFileName(
+        folder.filePath(QString::fromStdString(sheetFileName(editor.workingSymbol()))));
   }
 }
 

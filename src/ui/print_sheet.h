@@ -19,7 +19,7 @@ bool paintWorkingSymbol(QPrinter& printer, const Editor& editor);
 
 /// Sets `printer` up for a symbol sheet: A4 landscape, the whole paper given to the painter
 /// (the configured margins are kept by the sheet), the document named after the symbol, and
-/// PDF output into the current directory when no printer is installed.
+/// PDF output into the working directory when no printer is installed.
 void setUpSheetPrinter(QPrinter& printer, const Editor& editor);
 
 }  // namespace quorn::ui

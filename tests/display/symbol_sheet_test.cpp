@@ -52,11 +52,15 @@ TEST(SymbolSheet, HeadingNamesTheSymbolAndTheFileWithoutItsFolders) {
   SymbolText symbol = heatTracedValve();
   EXPECT_EQ(symbolSheet(symbol, "", Configuration{}).heading, "User Defined Symbol VT**");
   EXPECT_EQ(sheetDocumentName(symbol), "VT**");
+  EXPECT_EQ(sheetFileName(symbol), "VT__.pdf");
   symbol.newKey = "VTHX";
   EXPECT_EQ(symbolSheet(symbol, "", Configuration{}).heading, "User Defined Symbol VTHX");
   EXPECT_EQ(sheetDocumentName(symbol), "VTHX");
   EXPECT_EQ(symbolSheet(SymbolText{}, "", Configuration{}).heading, "User Defined Symbol");
   EXPECT_EQ(sheetDocumentName(SymbolText{}), "symbol");
+  EXPECT_EQ(sheetFileName(SymbolText{}), "symbol.pdf");
+  symbol.newKey = "../A B";
+  EXPECT_EQ(sheetFileName(symbol), "___A_B.pdf");
 
   EXPECT_EQ(symbolSheet(symbol, "", Configuration{}).fileLine, "");
   EXPECT_EQ(symbolSheet(symbol, "work/sets/VALVES.SYM", Configuration{}).fileLine,

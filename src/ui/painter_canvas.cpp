@@ -1,5 +1,7 @@
 #include "ui/painter_canvas.h"
 
+#include <cmath>
+
 #include "config/palette.h"
 
 namespace quorn::ui {
@@ -16,9 +18,16 @@ void PainterCanvas::clear() {
 
 void PainterCanvas::use(const Pen& pen) {
   QPen qpen(colour(pen.colour));
-  // Widths are device pixels, as on the screen the editor was made for.
-  qpen.setCosmetic(true);
-  qpen.setWidthF(pen.width * pixelScale_);
+  if (paperDotsPerPixel_) {
+    // The painter's transform shrinks or grows the pen with the drawing; undo its scale so
+    // the page gets the intended number of dots.
+    const double scale = std::sqrt(std::abs(painter_.worldTransform().determinant()));
+    qpen.setWidthF(pen.width * *paperDotsPerPixel_ / (scale > 0 ? scale : 1));
+  } else {
+    // Widths are device pixels, as on the screen the editor was made for.
+    qpen.setCosmetic(true);
+    qpen.setWidth(pen.width);
+  }
   switch (pen.style) {
     case PenStyle::Solid:
       qpen.setStyle(Qt::SolidLine);

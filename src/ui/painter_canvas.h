@@ -3,6 +3,7 @@
 // printer and the picture files.
 
 #include <QPainter>
+#include <optional>
 
 #include "display/canvas.h"
 
@@ -11,10 +12,13 @@ namespace quorn::ui {
 class PainterCanvas : public Canvas {
  public:
   /// Paints through `painter`, whose transform maps form units onto its device; clearing
-  /// fills `background`, in form units, with white. Pen widths, given in screen pixels, are
-  /// multiplied by `pixelScale`, so a printer's fine dots draw lines as wide as the screen's.
-  PainterCanvas(QPainter& painter, const QRectF& background, double pixelScale = 1)
-      : painter_(painter), background_(background), pixelScale_(pixelScale) {}
+  /// fills `background`, in form units, with white. Pen widths are screen pixels: device
+  /// pixels on a screen or a picture, or on paper `paperDotsPerPixel` of the device's dots
+  /// each, drawn to scale so that a printer's fine dots and a shrunken print preview both
+  /// show lines as wide as the screen's in proportion to the page.
+  PainterCanvas(QPainter& painter, const QRectF& background,
+                std::optional<double> paperDotsPerPixel = std::nullopt)
+      : painter_(painter), background_(background), paperDotsPerPixel_(paperDotsPerPixel) {}
 
   void clear() override;
   void line(double x1, double y1, double x2, double y2, const Pen& pen) override;
@@ -28,7 +32,7 @@ class PainterCanvas : public Canvas {
 
   QPainter& painter_;
   QRectF background_;
-  double pixelScale_;
+  std::optional<double> paperDotsPerPixel_;
 };
 
 }  // namespace quorn::ui

@@ -7,6 +7,7 @@
 #include <QSvgGenerator>
 #include <algorithm>
 #include <functional>
+#include <optional>
 
 #include "display/redraw.h"
 #include "skey/browsing.h"
@@ -45,7 +46,7 @@ QRectF cellRect(std::size_t index, double cellWidth, double cellHeight) {
 // drawing surface paints it but in the printed sheet's mode. The device units per form unit.
 double paintGridAndSymbol(QPainter& painter, const QRectF& target, const WorkingSymbol& working,
                           const PlacedPoints& placed, View view, const Configuration& config,
-                          const GridGeometry& grid, double pixelScale) {
+                          const GridGeometry& grid, std::optional<double> paperDotsPerPixel) {
   const QRectF area = formArea(grid);
   const double scale = std::min(target.width() / area.width(), target.height() / area.height());
   painter.save();
@@ -56,7 +57,7 @@ double paintGridAndSymbol(QPainter& painter, const QRectF& target, const Working
   transform.translate(-area.center().x(), -area.center().y());
   painter.setTransform(transform, true);
   painter.setRenderHint(QPainter::Antialiasing);
-  PainterCanvas canvas(painter, area, pixelScale);
+  PainterCanvas canvas(painter, area, paperDotsPerPixel);
   redrawGrid(canvas, grid, config);
   drawWorkingSymbol(canvas, working, placed, SymbolStyle{ViewMode::Mode1, 0, view}, config);
   painter.restore();
@@ -84,7 +85,7 @@ void paintSymbolCell(QPainter& painter, const QRectF& cell, const LabelledSymbol
   if (symbol.symbol) loadWorkingSymbol(*symbol.symbol, grid, working, state);
   paintGridAndSymbol(painter, drawing, working,
                      PlacedPoints{state.endPointPlaced, state.spindlePointPlaced},
-                     View::Orthographic, config, grid, 1);
+                     View::Orthographic, config, grid, std::nullopt);
   painter.setPen(Qt::black);
   QFont font = painter.font();
   font.setPixelSize(std::max(8, static_cast<int>(cell.height() * 0.035)));

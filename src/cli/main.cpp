@@ -18,7 +18,7 @@ constexpr Command kCommands[] = {
     {"library", quorn::cli::runLibrary, "library [--workdir DIR] [--json]"},
 #ifdef QUORN_WITH_RENDER
     {"render", quorn::cli::runRender,
-     "render FILE [--symbol N] --out OUT.{svg,png,pdf} [--workdir DIR]"},
+     "render FILE [--symbol N] [--sheet] --out OUT.{svg,png,pdf} [--workdir DIR]"},
 #endif
     {"replay", quorn::cli::runReplay, "replay SCRIPT [--workdir DIR]"},
     {"spindles", quorn::cli::runSpindles, "spindles [--workdir DIR] [--json]"},

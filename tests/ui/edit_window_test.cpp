@@ -40,12 +40,15 @@ class EditWindowTest : public QObject {
   void theCloseBoxAsksAboutAPendingSymbolThroughTheMessages();
   void escapeClosesTheNewSymbolDialogAndNothingIsDrawn();
   void thePickersFillTheKeysFromTheirLists();
+  void aRescaledGridTakesClicksAtItsNewDivision();
 
  private:
   /// The start-up tip closed with its button, as a user starts work.
   void closeTips();
   /// The group chooser moved to `row` with the arrow keys, as a user picks a group.
   void chooseGroup(int row);
+  /// Makes `window` the active window, as a click on it would.
+  void activate(QWidget& window);
   /// Symbol › New, with its dialog then shown and active.
   void openNewSymbolDialog();
   QDialog* newSymbolDialog() const { return named<QDialog>(*session_->window, "newSymbolDialog"); }
@@ -128,9 +131,13 @@ void EditWindowTest::openNewSymbolDialog() {
   QDialog* dialog = newSymbolDialog();
   QVERIFY(dialog);
   QVERIFY(dialog->isVisible());
+  activate(*dialog);
+}
+
+void EditWindowTest::activate(QWidget& window) {
   // Activation arrives as an event, and the offscreen platform does not say when.
-  dialog->activateWindow();
-  QTRY_VERIFY(QGuiApplication::focusWindow() == dialog->windowHandle());
+  window.activateWindow();
+  QTRY_VERIFY(QGuiApplication::focusWindow() == window.windowHandle());
 }
 
 void EditWindowTest::createSymbol(const QString& oldKey, const QString& newKey) {
@@ -347,6 +354,40 @@ void EditWindowTest::thePickersFillTheKeysFromTheirLists() {
   QVERIFY(!dialog->isVisible());
   QVERIFY(editor.state().symbolInProgress);
   QVERIFY2(session_->messages.shown().empty(), qPrintable(shownMessages()));
+}
+
+void EditWindowTest::aRescaledGridTakesClicksAtItsNewDivision() {
+  const Editor& editor = session_->editor;
+  STEP(closeTips());
+  const GridGeometry before = editor.grid();
+  STEP(pressButton("Scale"));
+  auto* scale = named<QDialog>(*session_->window, "scaleDialog");
+  QVERIFY(scale && scale->isVisible());
+  STEP(activate(*scale));
+  // One division of a millimetre instead of the sample's half millimetre.
+  STEP(typeIntoField(*scale, "gridDivisionField", "1"));
+  auto* rescale = named<QPushButton>(*scale, "rescaleButton");
+  QVERIFY(rescale);
+  QTest::mouseClick(rescale, Qt::LeftButton);
+  QVERIFY(editor.grid() != before);
+  auto* close = named<QPushButton>(*scale, "scaleClose");
+  QVERIFY(close);
+  QTest::mouseClick(close, Qt::LeftButton);
+  QVERIFY(!scale->isVisible());
+
+  STEP(chooseGroup(7));
+  STEP(createSymbol("anch", "anc3"));
+  STEP(clickGridPoint(2, 10));
+  STEP(clickGridPoint(6, 10));
+  STEP(pressButton("E&nd"));
+  STEP(clickGridPoint(8, 10));
+  STEP(pressButton("&Done"));
+  QVERIFY2(session_->messages.shown().empty(), qPrintable(shownMessages()));
+  QCOMPARE(editor.currentSet().count(), 1);
+  // Hundredths of a millimetre: the same grid points lie twice as far from the corner.
+  const std::vector<SymbolAction> expected = {
+      {kMove, 200, 1000}, {kLine, 600, 1000}, {kMove, 800, 1000}};
+  QVERIFY(editor.currentSet().symbol(1).actions == expected);
 }
 
 }  // namespace quorn::test

@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
+#include <QPainter>
 #include <QTest>
 #include <filesystem>
 #include <functional>
@@ -17,6 +19,25 @@
 
 namespace quorn::test {
 namespace {
+
+/// The widget as painted, under a plain title bar with its caption: an offscreen window has no
+/// frame of its own, and the caption tells the dialogs apart.
+QImage withTitleBar(QWidget& widget) {
+  const QPixmap content = widget.grab();
+  const int bar = 28;
+  QImage image(content.width() + 2, content.height() + bar + 1, QImage::Format_RGB32);
+  image.fill(QColor(0x70, 0x70, 0x70));
+  QPainter painter(&image);
+  painter.fillRect(QRect(1, 1, content.width(), bar - 1), QColor(0xdc, 0xe2, 0xea));
+  QFont font = widget.font();
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(Qt::black);
+  painter.drawText(QRect(10, 1, content.width() - 20, bar - 1), Qt::AlignVCenter | Qt::AlignLeft,
+                   widget.windowTitle());
+  painter.drawPixmap(1, bar, content);
+  return image;
+}
 
 class Screenshots {
  public:
@@ -40,7 +61,7 @@ class Screenshots {
     }
     QApplication::processEvents();
     const auto path = directory_ / file;
-    if (!widget->grab().save(QString::fromStdString(path.string()))) {
+    if (!withTitleBar(*widget).save(QString::fromStdString(path.string()))) {
       std::cerr << path.string() << ": cannot be written\n";
       failed_ = true;
       return;
@@ -59,7 +80,8 @@ class Screenshots {
 int run(const std::filesystem::path& directory) {
   std::filesystem::create_directories(directory);
   WindowSession session;
-  Screenshots shots(session, directory);
+  // Absolute, as the program later changes its current directory.
+  Screenshots shots(session, std::filesystem::absolute(directory));
 
   const bool started = session.start([&] {
     ui::StartupWindow startup(session.editor.startup().startupCaption);
@@ -70,8 +92,11 @@ int run(const std::filesystem::path& directory) {
   shots.take([](Editor&) {}, "tipsDialog", "user-tips.png");
   session.editor.closeTipsDialog();
 
-  // The sample file open, its second symbol on the grid.
-  session.chooser.queue(session.path("EXAMPLE.SYM"));
+  // The sample file open, its second symbol on the grid. It is named from the working
+  // directory, so the caption shows no temporary path.
+  const auto startedIn = std::filesystem::current_path();
+  std::filesystem::current_path(session.temp.path());
+  session.chooser.queue("EXAMPLE.SYM");
   shots.take(
       [](Editor& editor) {
         editor.openFile();
@@ -111,6 +136,7 @@ int run(const std::filesystem::path& directory) {
   session.editor.closePicker();
   session.editor.pressCancel();
   session.window->refresh();
+  std::filesystem::current_path(startedIn);
   return shots.failed() ? 1 : 0;
 }
 

@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTest>
 #include <QToolButton>
 #include <filesystem>
@@ -41,6 +43,7 @@ class EditWindowTest : public QObject {
   void escapeClosesTheNewSymbolDialogAndNothingIsDrawn();
   void thePickersFillTheKeysFromTheirLists();
   void aRescaledGridTakesClicksAtItsNewDivision();
+  void deleteLineAsksAndTakesTheLineClickedOn();
 
  private:
   /// The start-up tip closed with its button, as a user starts work.
@@ -58,7 +61,7 @@ class EditWindowTest : public QObject {
   void typeIntoField(QWidget& dialog, const char* name, const QString& text);
   /// A click on the grid point `across` divisions right of and `up` divisions above the
   /// grid's bottom-left corner.
-  void clickGridPoint(int across, int up);
+  void clickGridPoint(int across, int up, Qt::MouseButton button = Qt::LeftButton);
   void pressButton(const QString& caption);
   /// A click on the row of `list` that reads `text`.
   void clickRow(QListWidget& list, const QString& text);
@@ -120,10 +123,21 @@ void EditWindowTest::typeIntoField(QWidget& dialog, const char* name, const QStr
 }
 
 void EditWindowTest::chooseMenu(const QString& menu, const QString& entry) {
+  QMenuBar* bar = session_->window->menuBar();
+  QAction* title = nullptr;
+  for (QAction* candidate : bar->actions()) {
+    if (candidate->text() == menu && candidate->isVisible()) title = candidate;
+  }
+  QVERIFY2(title && title->menu(), qPrintable(menu));
+  QMenu* popup = title->menu();
+  // The menu opens as a click on its title opens it, so the window hears of it first.
+  QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(title).center());
+  QTRY_VERIFY2(popup->isVisible(), qPrintable(menu));
   QAction* action = menuEntry(*session_->window, menu, entry);
-  QVERIFY2(action, qPrintable(entry));
+  QVERIFY2(action && action->isVisible(), qPrintable(entry));
   QVERIFY2(action->isEnabled(), qPrintable(entry));
-  action->trigger();
+  QTest::mouseClick(popup, Qt::LeftButton, Qt::NoModifier, popup->actionGeometry(action).center());
+  QTRY_VERIFY2(!popup->isVisible(), qPrintable(entry));
 }
 
 void EditWindowTest::openNewSymbolDialog() {
@@ -151,7 +165,7 @@ void EditWindowTest::createSymbol(const QString& oldKey, const QString& newKey) 
   QVERIFY(!dialog->isVisible());
 }
 
-void EditWindowTest::clickGridPoint(int across, int up) {
+void EditWindowTest::clickGridPoint(int across, int up, Qt::MouseButton button) {
   ui::DrawingSurface& surface = *session_->surface;
   const SurfacePoints points(surface);
   QVERIFY(points.valid());
@@ -159,7 +173,7 @@ void EditWindowTest::clickGridPoint(int across, int up) {
   const QPoint pixel = points.pixelAt(kGridLeft + across * grid.spacing,
                                       kGridTop + grid.gridHeight - up * grid.spacing);
   QVERIFY(surface.rect().contains(pixel));
-  QTest::mouseClick(&surface, Qt::LeftButton, Qt::NoModifier, pixel);
+  QTest::mouseClick(&surface, button, Qt::NoModifier, pixel);
 }
 
 void EditWindowTest::pressButton(const QString& caption) {
@@ -387,6 +401,31 @@ void EditWindowTest::aRescaledGridTakesClicksAtItsNewDivision() {
   // Hundredths of a millimetre: the same grid points lie twice as far from the corner.
   const std::vector<SymbolAction> expected = {
       {kMove, 200, 1000}, {kLine, 600, 1000}, {kMove, 800, 1000}};
+  QVERIFY(editor.currentSet().symbol(1).actions == expected);
+}
+
+void EditWindowTest::deleteLineAsksAndTakesTheLineClickedOn() {
+  const Editor& editor = session_->editor;
+  STEP(closeTips());
+  STEP(chooseGroup(7));
+  STEP(createSymbol("anch", "anc4"));
+  STEP(clickGridPoint(2, 10));
+  STEP(clickGridPoint(10, 10));
+  STEP(clickGridPoint(10, 14));
+  STEP(pressButton("E&nd"));
+  STEP(clickGridPoint(14, 10));
+
+  session_->messages.queue(Answer::Yes);
+  STEP(chooseMenu("&Delete", "&Line"));
+  STEP(clickGridPoint(6, 10));  // on the first line, halfway along
+  STEP(clickGridPoint(30, 30, Qt::RightButton));
+  STEP(pressButton("&Done"));
+  QCOMPARE(session_->messages.shown().size(), std::size_t{1});
+  QCOMPARE(session_->messages.shown()[0].buttons, Buttons::YesNo);
+  QCOMPARE(editor.currentSet().count(), 1);
+  // The deleted line's end stays as a pen-up move; the second line is kept.
+  const std::vector<SymbolAction> expected = {
+      {kMove, 100, 500}, {kMove, 500, 500}, {kLine, 500, 700}, {kMove, 700, 500}};
   QVERIFY(editor.currentSet().symbol(1).actions == expected);
 }
 

@@ -1,8 +1,10 @@
 // A full redraw of the edit window's drawing at 1920 x 1080: the core redraws the grid and a
 // symbol of 200 actions into the display list, and the surface's painter paints it into an
-// image as it paints the window, with the symbol antialiased. The grid is kept as a picture
-// between repaints; the cold case paints it afresh, the uncached case paints as the surface
-// did before it kept the grid.
+// image as it paints the window, with the symbol antialiased. The painter keeps the grid, and
+// the grid with what the last paints shared, as pictures: a redraw of an unchanged symbol, or
+// one with the rubber band moved, paints only what changed; a symbol that changed everywhere
+// (moved, flipped) is painted whole over the kept grid; the cold case paints the grid afresh,
+// and the uncached case paints as the surface did before it kept anything.
 
 #include <benchmark/benchmark.h>
 
@@ -164,7 +166,7 @@ void checkSamePixels(benchmark::State& state, const QImage& painted, const Displ
   if (painted != reference) state.SkipWithError("the paint differs from the one-pass paint");
 }
 
-// The core's redraw into the display list and the surface's paint, with the grid kept.
+// The core's redraw of an unchanged symbol (a refresh) and the surface's paint.
 void BM_FullRedrawWarmGrid(benchmark::State& state) {
   const Scene scene(state);
   QImage image(kSurface, formatOf(state));
@@ -188,6 +190,50 @@ void BM_FullRedrawWarmGrid(benchmark::State& state) {
   label(state);
 }
 BENCHMARK(BM_FullRedrawWarmGrid)->Apply(cases);
+
+// A mouse move while a line is drawn: the core redraws everything and the rubber band to the
+// new cursor position.
+void BM_RedrawRubberBand(benchmark::State& state) {
+  const Scene scene(state);
+  QImage image(kSurface, formatOf(state));
+  DisplayList drawing;
+  ui::SurfacePainter painter;
+  const Pen band{0, PenStyle::Solid, 1};
+  int step = 0;
+  for (auto _ : state) {
+    scene.redrawInto(drawing);
+    const double across = kGridLeft + (step++ % 100) * scene.grid.gridWidth / 100.0;
+    drawing.line(kGridLeft, kGridTop, across, kGridTop + scene.grid.gridHeight, band);
+    QPainter device(&image);
+    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+  }
+  checkSamePixels(state, image, drawing, scene.formArea);
+  label(state);
+}
+BENCHMARK(BM_RedrawRubberBand)->Apply(cases);
+
+// A symbol that changed everywhere on every redraw, as a move or a flip changes it: only the
+// grid is kept.
+void BM_FullRedrawSymbolReplaced(benchmark::State& state) {
+  const Scene scene(state);
+  Scene moved(state);
+  for (int slot = 1; slot <= moved.symbol.actionCount; ++slot) {
+    moved.symbol.slots[static_cast<std::size_t>(slot)].x += 1;
+  }
+  QImage image(kSurface, formatOf(state));
+  DisplayList drawing;
+  ui::SurfacePainter painter;
+  bool flip = false;
+  for (auto _ : state) {
+    (flip ? moved : scene).redrawInto(drawing);
+    flip = !flip;
+    QPainter device(&image);
+    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+  }
+  checkSamePixels(state, image, drawing, scene.formArea);
+  label(state);
+}
+BENCHMARK(BM_FullRedrawSymbolReplaced)->Apply(cases);
 
 // The paint alone, the display list unchanged: a repaint on exposure.
 void BM_RepaintWarmGrid(benchmark::State& state) {

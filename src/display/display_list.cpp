@@ -21,7 +21,7 @@ void DisplayList::gridComplete() {
   hasGrid_ = true;
 }
 
-void DisplayList::paintRange(Canvas& canvas, std::size_t first, std::size_t end) const {
+void DisplayList::paintCalls(Canvas& canvas, std::size_t first, std::size_t end) const {
   for (std::size_t i = first; i < end; ++i) {
     const DrawCall& call = calls_[i];
     if (call.kind == DrawCall::Kind::Line) {
@@ -34,12 +34,12 @@ void DisplayList::paintRange(Canvas& canvas, std::size_t first, std::size_t end)
 
 void DisplayList::paintGrid(Canvas& canvas) const {
   if (!hasGrid_) return;
-  paintRange(canvas, 0, gridCalls_);
+  paintCalls(canvas, 0, gridCalls_);
   canvas.gridComplete();
 }
 
 void DisplayList::paintOverGrid(Canvas& canvas) const {
-  paintRange(canvas, gridCalls_, calls_.size());
+  paintCalls(canvas, gridCalls_, calls_.size());
 }
 
 void DisplayList::paintOn(Canvas& canvas) const {

@@ -41,10 +41,10 @@ class DisplayList : public Canvas {
   void paintGrid(Canvas& canvas) const;
   /// Draws the calls after the grid: all of them when there is no grid.
   void paintOverGrid(Canvas& canvas) const;
+  /// Draws calls `first` up to `end` (not included), in order.
+  void paintCalls(Canvas& canvas, std::size_t first, std::size_t end) const;
 
  private:
-  void paintRange(Canvas& canvas, std::size_t first, std::size_t end) const;
-
   std::vector<DrawCall> calls_;
   std::size_t gridCalls_ = 0;
   bool hasGrid_ = false;

@@ -1,6 +1,7 @@
 #include "ui/surface_painter.h"
 
 #include <algorithm>
+#include <span>
 
 #include "ui/painter_canvas.h"
 
@@ -12,14 +13,26 @@ namespace {
 constexpr double kRightBand = 250;
 constexpr double kFootBand = 1400;
 
+/// Runs `paint` with a canvas that draws antialiased through `painter` in form units.
+template <typename Paint>
 void paintAntialiased(QPainter& painter, const QTransform& transform, const QRectF& formArea,
-                      const DisplayList& drawing, void (DisplayList::*layer)(Canvas&) const) {
+                      Paint paint) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setTransform(transform, true);
   PainterCanvas canvas(painter, formArea);
-  (drawing.*layer)(canvas);
+  paint(canvas);
   painter.restore();
+}
+
+/// How many calls the two runs share from their starts.
+std::size_t sharedStart(std::span<const DrawCall> a, std::span<const DrawCall> b) {
+  return static_cast<std::size_t>(std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first -
+                                  a.begin());
+}
+
+std::span<const DrawCall> overGrid(const DisplayList& drawing) {
+  return std::span<const DrawCall>(drawing.calls()).subspan(drawing.gridCallCount());
 }
 
 }  // namespace
@@ -41,6 +54,8 @@ QTransform SurfacePainter::formToDevice(QSize size, const QRectF& formArea) {
 void SurfacePainter::forgetGrid() {
   grid_ = QImage();
   gridCalls_.clear();
+  kept_ = QImage();
+  keptCalls_.clear();
 }
 
 bool SurfacePainter::gridStillFits(QSize pixels, const DisplayList& drawing,
@@ -57,12 +72,34 @@ void SurfacePainter::paintGridPicture(QSize size, qreal pixelRatio, const Displa
   grid_.setDevicePixelRatio(pixelRatio);
   grid_.fill(Qt::white);
   QPainter painter(&grid_);
-  paintAntialiased(painter, formToDevice(size, formArea), formArea, drawing,
-                   &DisplayList::paintGrid);
+  paintAntialiased(painter, formToDevice(size, formArea), formArea,
+                   [&](Canvas& canvas) { drawing.paintGrid(canvas); });
+  kept_ = QImage();
+  keptCalls_.clear();
   const auto gridEnd =
       drawing.calls().begin() + static_cast<std::ptrdiff_t>(drawing.gridCallCount());
   gridCalls_.assign(drawing.calls().begin(), gridEnd);
   gridFormArea_ = formArea;
+}
+
+std::size_t SurfacePainter::keepSteadyCalls(QSize size, const DisplayList& drawing,
+                                            const QRectF& formArea) {
+  const std::span<const DrawCall> calls = overGrid(drawing);
+  if (kept_.isNull() || sharedStart(calls, keptCalls_) < keptCalls_.size()) {
+    kept_ = grid_;
+    keptCalls_.clear();
+  }
+  const std::size_t steady = sharedStart(calls, lastCalls_);
+  if (steady > keptCalls_.size()) {
+    QPainter painter(&kept_);
+    const std::size_t first = drawing.gridCallCount() + keptCalls_.size();
+    paintAntialiased(painter, formToDevice(size, formArea), formArea, [&](Canvas& canvas) {
+      drawing.paintCalls(canvas, first, drawing.gridCallCount() + steady);
+    });
+    keptCalls_.assign(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(steady));
+  }
+  lastCalls_.assign(calls.begin(), calls.end());
+  return keptCalls_.size();
 }
 
 void SurfacePainter::paint(QPainter& painter, QSize size, qreal pixelRatio,
@@ -70,11 +107,13 @@ void SurfacePainter::paint(QPainter& painter, QSize size, qreal pixelRatio,
   if (!gridStillFits(size * pixelRatio, drawing, formArea)) {
     paintGridPicture(size, pixelRatio, drawing, formArea);
   }
+  const std::size_t kept = keepSteadyCalls(size, drawing, formArea);
   // The picture is opaque and covers the device; Qt's blend of premultiplied pixels copies it
   // faster than its plain source mode does.
-  painter.drawImage(QPointF(0, 0), grid_);
-  paintAntialiased(painter, formToDevice(size, formArea), formArea, drawing,
-                   &DisplayList::paintOverGrid);
+  painter.drawImage(QPointF(0, 0), kept_);
+  paintAntialiased(painter, formToDevice(size, formArea), formArea, [&](Canvas& canvas) {
+    drawing.paintCalls(canvas, drawing.gridCallCount() + kept, drawing.calls().size());
+  });
 }
 
 }  // namespace quorn::ui

@@ -1,14 +1,17 @@
 #pragma once
-// Paints the drawing surface's display list onto any paint device: the grid from a picture it
-// keeps, then everything drawn over the grid, antialiased. The grid changes only on a clear
-// with a new layout, a new size or new colours, while the symbol and the rubber band are drawn
-// again on every mouse move; keeping the grid painted makes a repaint cost the symbol alone.
+// Paints the drawing surface's display list onto any paint device, antialiased. The editor
+// draws the whole surface again after each change (grid, symbol, then the rubber band), but
+// most of it is what the last paint showed: the grid changes only with a new layout, size or
+// colours, and the symbol only when it is edited. So two pictures are kept: the grid, and the
+// grid with the calls drawn over it that the last two paints shared. A paint copies the second
+// and draws only what follows it, such as the rubber band or a line just added.
 
 #include <QImage>
 #include <QPainter>
 #include <QRectF>
 #include <QSize>
 #include <QTransform>
+#include <cstddef>
 #include <vector>
 
 #include "display/display_list.h"
@@ -37,10 +40,18 @@ class SurfacePainter {
   bool gridStillFits(QSize pixels, const DisplayList& drawing, const QRectF& formArea) const;
   void paintGridPicture(QSize size, qreal pixelRatio, const DisplayList& drawing,
                         const QRectF& formArea);
+  /// Brings the kept drawing up to the calls over the grid that this paint shares with the
+  /// last one; the number of calls over the grid it then holds.
+  std::size_t keepSteadyCalls(QSize size, const DisplayList& drawing, const QRectF& formArea);
 
   QImage grid_;
   std::vector<DrawCall> gridCalls_;
   QRectF gridFormArea_;
+  /// The grid with `keptCalls_` drawn over it.
+  QImage kept_;
+  std::vector<DrawCall> keptCalls_;
+  /// The calls over the grid at the last paint.
+  std::vector<DrawCall> lastCalls_;
 };
 
 }  // namespace quorn::ui

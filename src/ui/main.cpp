@@ -1,6 +1,7 @@
 // symbols-editor: the edit window over the editor's core.
 
 #include <QApplication>
+#include <QScreen>
 #include <QStringList>
 #include <QTimer>
 
@@ -41,7 +42,11 @@ int main(int argc, char** argv) {
     // messages stand over the window.
     const auto fatal = editor.startSecondStage([&] {
       startupWindow.close();
-      window.show();
+      // The grid is laid out for the whole screen: the window opens as large as it may,
+      // also where no window manager maximises it.
+      const QRect screen = window.screen()->availableGeometry();
+      window.setGeometry(screen);
+      window.showMaximized();
       window.refresh();
     });
     startupWindow.close();

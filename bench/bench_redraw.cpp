@@ -166,27 +166,37 @@ void checkSamePixels(benchmark::State& state, const QImage& painted, const Displ
   if (painted != reference) state.SkipWithError("the paint differs from the one-pass paint");
 }
 
+// The edit window's drawing surface as the benchmarks paint it.
+struct Surface {
+  explicit Surface(const benchmark::State& state) : image(kSurface, formatOf(state)) {}
+
+  void paint(const QRectF& formArea) {
+    QPainter device(&image);
+    painter.paint(device, kSurface, 1.0, drawing, formArea);
+  }
+
+  QImage image;
+  DisplayList drawing;
+  ui::SurfacePainter painter;
+};
+
 // The core's redraw of an unchanged symbol (a refresh) and the surface's paint.
 void BM_FullRedrawWarmGrid(benchmark::State& state) {
   const Scene scene(state);
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
-  ui::SurfacePainter painter;
+  Surface surface(state);
   // The painter first keeps a grid of another colour, so the pixel check at the end also
   // catches a kept grid that outlives the drawing it came from.
   Scene recoloured(state);
   recoloured.config.gridColour = 12;
   for (const Scene* warming : std::initializer_list<const Scene*>{&recoloured, &scene}) {
-    warming->redrawInto(drawing);
-    QPainter warm(&image);
-    painter.paint(warm, kSurface, 1.0, drawing, scene.formArea);
+    warming->redrawInto(surface.drawing);
+    surface.paint(scene.formArea);
   }
   for (auto _ : state) {
-    scene.redrawInto(drawing);
-    QPainter device(&image);
-    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+    scene.redrawInto(surface.drawing);
+    surface.paint(scene.formArea);
   }
-  checkSamePixels(state, image, drawing, scene.formArea);
+  checkSamePixels(state, surface.image, surface.drawing, scene.formArea);
   label(state);
 }
 BENCHMARK(BM_FullRedrawWarmGrid)->Apply(cases);
@@ -195,19 +205,16 @@ BENCHMARK(BM_FullRedrawWarmGrid)->Apply(cases);
 // new cursor position.
 void BM_RedrawRubberBand(benchmark::State& state) {
   const Scene scene(state);
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
-  ui::SurfacePainter painter;
+  Surface surface(state);
   const Pen band{0, PenStyle::Solid, 1};
   int step = 0;
   for (auto _ : state) {
-    scene.redrawInto(drawing);
+    scene.redrawInto(surface.drawing);
     const double across = kGridLeft + (step++ % 100) * scene.grid.gridWidth / 100.0;
-    drawing.line(kGridLeft, kGridTop, across, kGridTop + scene.grid.gridHeight, band);
-    QPainter device(&image);
-    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+    surface.drawing.line(kGridLeft, kGridTop, across, kGridTop + scene.grid.gridHeight, band);
+    surface.paint(scene.formArea);
   }
-  checkSamePixels(state, image, drawing, scene.formArea);
+  checkSamePixels(state, surface.image, surface.drawing, scene.formArea);
   label(state);
 }
 BENCHMARK(BM_RedrawRubberBand)->Apply(cases);
@@ -220,17 +227,14 @@ void BM_FullRedrawSymbolReplaced(benchmark::State& state) {
   for (int slot = 1; slot <= moved.symbol.actionCount; ++slot) {
     moved.symbol.slots[static_cast<std::size_t>(slot)].x += 1;
   }
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
-  ui::SurfacePainter painter;
+  Surface surface(state);
   bool flip = false;
   for (auto _ : state) {
-    (flip ? moved : scene).redrawInto(drawing);
+    (flip ? moved : scene).redrawInto(surface.drawing);
     flip = !flip;
-    QPainter device(&image);
-    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+    surface.paint(scene.formArea);
   }
-  checkSamePixels(state, image, drawing, scene.formArea);
+  checkSamePixels(state, surface.image, surface.drawing, scene.formArea);
   label(state);
 }
 BENCHMARK(BM_FullRedrawSymbolReplaced)->Apply(cases);
@@ -238,13 +242,10 @@ BENCHMARK(BM_FullRedrawSymbolReplaced)->Apply(cases);
 // The paint alone, the display list unchanged: a repaint on exposure.
 void BM_RepaintWarmGrid(benchmark::State& state) {
   const Scene scene(state);
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
-  ui::SurfacePainter painter;
-  scene.redrawInto(drawing);
+  Surface surface(state);
+  scene.redrawInto(surface.drawing);
   for (auto _ : state) {
-    QPainter device(&image);
-    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+    surface.paint(scene.formArea);
   }
   label(state);
 }
@@ -253,16 +254,13 @@ BENCHMARK(BM_RepaintWarmGrid)->Apply(cases);
 // The first paint after a new layout or size: the grid's picture is painted again.
 void BM_FullRedrawColdGrid(benchmark::State& state) {
   const Scene scene(state);
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
-  ui::SurfacePainter painter;
+  Surface surface(state);
   for (auto _ : state) {
-    painter.forgetGrid();
-    scene.redrawInto(drawing);
-    QPainter device(&image);
-    painter.paint(device, kSurface, 1.0, drawing, scene.formArea);
+    surface.painter.forgetGrid();
+    scene.redrawInto(surface.drawing);
+    surface.paint(scene.formArea);
   }
-  checkSamePixels(state, image, drawing, scene.formArea);
+  checkSamePixels(state, surface.image, surface.drawing, scene.formArea);
   label(state);
 }
 BENCHMARK(BM_FullRedrawColdGrid)->Apply(cases);
@@ -270,11 +268,10 @@ BENCHMARK(BM_FullRedrawColdGrid)->Apply(cases);
 // The one-pass paint on every redraw, with no picture kept: for comparison.
 void BM_FullRedrawUncached(benchmark::State& state) {
   const Scene scene(state);
-  QImage image(kSurface, formatOf(state));
-  DisplayList drawing;
+  Surface surface(state);
   for (auto _ : state) {
-    scene.redrawInto(drawing);
-    paintUncached(image, drawing, scene.formArea);
+    scene.redrawInto(surface.drawing);
+    paintUncached(surface.image, surface.drawing, scene.formArea);
   }
   label(state);
 }

@@ -115,6 +115,8 @@ void NewSymbolDialogView::addField(QGridLayout* layout, int row, DialogField fie
   fields_.push_back({field, label, edit});
   connect(edit, &QLineEdit::textEdited, this, [this, field](const QString& typed) {
     editor_.typeInDialog(field, typed.toStdString());
+    // Typing puts the editor's focus where the user already is: not a move to show.
+    focusShown_ = editor_.symbolDialogs().dialog.state().focus;
   });
   connect(edit, &QLineEdit::editingFinished, this, [this, field] {
     if (mirroring_) return;
